@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <utility>
 
 namespace r7 {
 
@@ -30,11 +31,11 @@ class Callback final
 {
 public:
     /// Stores the pair, and retains the target, if both are given; otherwise nothing changes.
-    void set(Action action, ActionTargetRef target)
+    void set(Action new_action, ActionTargetRef new_target)
     {
-        if (!action || !target) return;
-        action_ = action;
-        target_ = std::move(target);
+        if (!new_action || !new_target) return;
+        action_ = new_action;
+        target_ = std::move(new_target);
     }
 
     /// Lets the target go.

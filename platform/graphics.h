@@ -31,7 +31,9 @@ public:
     Graphics(const Graphics&) = delete;
     Graphics& operator=(const Graphics&) = delete;
 
-    /// Narrows all later painting of this view to `rect`, until the enclosing SavedState ends.
+    /// Moves the origin of all later coordinates, until the enclosing SavedState ends.
+    virtual void move_origin_to(Point origin) = 0;
+    /// Narrows all later painting to `rect`, until the enclosing SavedState ends.
     virtual void clip_to(const Rect& rect) = 0;
 
     /// Fills the inside of the path (non-zero winding rule); open subpaths are closed by a straight line.
@@ -50,7 +52,7 @@ public:
     /// Bytes that are no UTF-8 and characters that the font lacks show as its missing-character box.
     virtual void draw_text(std::string_view utf8, const Rect& rect, const TextAttributes& attributes) = 0;
 
-    /// Keeps the clip, and restores it when it goes.
+    /// Keeps origin and clip, and restores them when it goes.
     class SavedState final
     {
     public:

@@ -1,0 +1,29 @@
+// The folder of resources that belongs to the panel.
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string_view>
+
+namespace r7 {
+
+/// Finds resources by name; holds nothing open.
+class Bundle final
+{
+public:
+    /// `directory` holds the interface description, and a folder `images` of PNG files.
+    explicit Bundle(std::filesystem::path directory) : directory_(std::move(directory)) {}
+
+    const std::filesystem::path& directory() const { return directory_; }
+
+    /// Where the image resource `name` is (its 1x file), if there is such a file.
+    std::optional<std::filesystem::path> path_for_image_resource(std::string_view name) const;
+    /// Where the resource `name.type` is, if there is such a file.
+    std::optional<std::filesystem::path> path_for_resource(std::string_view name,
+                                                           std::string_view type) const;
+
+private:
+    std::filesystem::path directory_;
+};
+
+} // namespace r7
