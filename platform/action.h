@@ -9,8 +9,7 @@ namespace r7 {
 class View;
 
 /// Somebody whom controls call back.
-class ActionTarget
-{
+class ActionTarget {
 public:
     virtual ~ActionTarget() = default;
 
@@ -27,8 +26,7 @@ using ActionTargetRef = std::shared_ptr<ActionTarget>;
 using Action = void (*)(ActionTarget& target, View& sender);
 
 /// An action and its target, stored together or not at all.
-class Callback final
-{
+class Callback final {
 public:
     /// Stores the pair, and retains the target, if both are given; otherwise nothing changes.
     void set(Action new_action, ActionTargetRef new_target)

@@ -8,8 +8,7 @@
 namespace r7 {
 
 /// Finds resources by name; holds nothing open.
-class Bundle final
-{
+class Bundle final {
 public:
     /// `directory` holds the interface description, and a folder `images` of PNG files.
     explicit Bundle(std::filesystem::path directory) : directory_(std::move(directory)) {}

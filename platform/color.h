@@ -13,8 +13,7 @@ class Color;
 using ColorRef = std::shared_ptr<const Color>;
 
 /// Straight (not premultiplied) components, nominally 0 to 1; painting clamps what lies outside.
-struct Rgba
-{
+struct Rgba {
     double red = 0.0;
     double green = 0.0;
     double blue = 0.0;
@@ -22,8 +21,7 @@ struct Rgba
     bool operator==(const Rgba&) const = default;
 };
 
-class Color final
-{
+class Color final {
 public:
     static ColorRef device_rgba(double red, double green, double blue, double alpha);
     static ColorRef device_white(double white, double alpha);

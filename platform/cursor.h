@@ -8,8 +8,7 @@
 namespace r7 {
 
 /// `hot_spot` is measured from the image's lower left corner, in points.
-struct Cursor
-{
+struct Cursor {
     ImageRef image;
     Point hot_spot;
 };

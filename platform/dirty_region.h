@@ -13,8 +13,7 @@ namespace r7 {
 ///
 /// Requests that touch each other merge into the rectangle around both; when there are more than fit, all
 /// merge into one. The union of the requests is always covered.
-class DirtyRegion final
-{
+class DirtyRegion final {
 public:
     static constexpr std::size_t kMostRects = 16;
 

@@ -8,8 +8,7 @@
 namespace r7 {
 
 /// Modifier keys held during an event; the values are the platform's flag bits and combine with `|`.
-enum class Modifiers : std::uint32_t
-{
+enum class Modifiers : std::uint32_t {
     none = 0,
     shift = 0x20000,
     control = 0x40000,
@@ -29,15 +28,10 @@ constexpr bool has(Modifiers held, Modifiers key)
            static_cast<std::uint32_t>(key);
 }
 
-enum class MouseButton
-{
-    primary,
-    secondary
-};
+enum class MouseButton { primary, secondary };
 
 /// A press, drag or release.
-struct MouseEvent
-{
+struct MouseEvent {
     Point location_in_window{}; ///< points, from the window's lower left corner, y upward
     double delta_x = 0.0;       ///< motion since the event before, points, rightward
     double delta_y = 0.0;       ///< motion since the event before, points, growing downward
@@ -46,8 +40,7 @@ struct MouseEvent
 };
 
 /// A step of a scroll wheel. One notch is 1.0; away from the user (up) and to the right are positive.
-struct ScrollEvent
-{
+struct ScrollEvent {
     Point location_in_window{};
     double delta_x = 0.0;
     double delta_y = 0.0;

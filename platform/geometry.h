@@ -6,23 +6,20 @@
 
 namespace r7 {
 
-struct Point
-{
+struct Point {
     double x = 0.0;
     double y = 0.0;
     bool operator==(const Point&) const = default;
 };
 
-struct Size
-{
+struct Size {
     double width = 0.0;
     double height = 0.0;
     bool operator==(const Size&) const = default;
 };
 
 /// A rectangle by its lower left corner. One whose width or height is not above 0 (NaN included) is empty.
-struct Rect
-{
+struct Rect {
     double x = 0.0;
     double y = 0.0;
     double width = 0.0;

@@ -12,11 +12,7 @@
 namespace r7 {
 
 /// How painted pixels meet those that are there.
-enum class Compositing
-{
-    copy,
-    source_over
-};
+enum class Compositing { copy, source_over };
 
 /// The drawing operations of one view for the time of one paint, in the view's coordinates (points, y
 /// upward).
@@ -24,8 +20,7 @@ enum class Compositing
 /// Implemented once for each drawing back end. Numbers that are not finite are harmless everywhere: a path
 /// leaves out the points that are not finite, any other operation draws nothing. A null or absent colour or
 /// image draws nothing. Coordinates are clamped to a million points before a rasteriser sees them.
-class Graphics
-{
+class Graphics {
 public:
     virtual ~Graphics() = default;
     Graphics(const Graphics&) = delete;
@@ -53,8 +48,7 @@ public:
     virtual void draw_text(std::string_view utf8, const Rect& rect, const TextAttributes& attributes) = 0;
 
     /// Keeps origin and clip, and restores them when it goes.
-    class SavedState final
-    {
+    class SavedState final {
     public:
         explicit SavedState(Graphics& graphics) : graphics_(graphics) { graphics_.save(); }
         ~SavedState() { graphics_.restore(); }

@@ -10,8 +10,7 @@ namespace r7 {
 void log_message(std::string_view text);
 
 /// While it lives, the messages of this thread go to a receiver instead of standard error. Captures nest.
-class LogCapture final
-{
+class LogCapture final {
 public:
     using Receiver = std::function<void(std::string_view text)>;
 

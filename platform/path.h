@@ -14,25 +14,13 @@ namespace r7 {
 /// Holds any numbers, NaN and infinities included; what cannot be drawn is left out where the path is
 /// painted. `remove_all_points` keeps the storage, so that a path which is refilled allocates nothing once it
 /// has grown.
-class Path
-{
+class Path {
 public:
-    enum class Verb
-    {
-        move,
-        line,
-        curve,
-        close
-    };
-    enum class Direction
-    {
-        counterclockwise,
-        clockwise
-    };
+    enum class Verb { move, line, curve, close };
+    enum class Direction { counterclockwise, clockwise };
 
     /// `points[0]` is the end of a move or a line; a curve has its two control points and its end.
-    struct Element
-    {
+    struct Element {
         Verb verb = Verb::move;
         std::array<Point, 3> points{};
         bool operator==(const Element&) const = default;

@@ -11,23 +11,20 @@ namespace r7 {
 /// Nanoseconds since the beginning of a clock of its own.
 using Time = std::chrono::nanoseconds;
 
-class Clock
-{
+class Clock {
 public:
     virtual ~Clock() = default;
     virtual Time now() const = 0;
 };
 
 /// The machine's monotonic clock.
-class SteadyClock final : public Clock
-{
+class SteadyClock final : public Clock {
 public:
     Time now() const override;
 };
 
 /// A clock that moves when it is told; starts at 0.
-class SimulatedClock final : public Clock
-{
+class SimulatedClock final : public Clock {
 public:
     Time now() const override { return now_; }
     /// Never back: an earlier time changes nothing.
@@ -38,15 +35,10 @@ private:
 };
 
 /// What a loop is doing: sources are served in the modes that they were added for.
-enum class RunLoopMode
-{
-    standard,
-    modal
-};
+enum class RunLoopMode { standard, modal };
 
 /// Something that a run loop serves.
-class RunLoopSource
-{
+class RunLoopSource {
 public:
     virtual ~RunLoopSource() = default;
     /// A file descriptor; the source is served when it can be read. -1: none.
@@ -63,8 +55,7 @@ public:
 };
 
 /// Wakes a loop from any thread, without allocating or blocking; outlives the loop for whoever holds it.
-class RunLoopWaker
-{
+class RunLoopWaker {
 public:
     RunLoopWaker();
     ~RunLoopWaker();
@@ -80,8 +71,7 @@ private:
 /// The loop of the thread that made it; all of its operations belong on that thread.
 ///
 /// The one made last on a thread, and not yet gone, is the thread's current loop.
-class RunLoop final
-{
+class RunLoop final {
 public:
     /// `clock` outlives the loop.
     explicit RunLoop(const Clock& clock);
@@ -98,11 +88,7 @@ public:
 
     /// Serves `source` from now on, in the standard mode only or in every mode. The loop does not own it: a
     /// source that is gone is served no more.
-    enum class Modes
-    {
-        standard_only,
-        all
-    };
+    enum class Modes { standard_only, all };
     void add(const std::shared_ptr<RunLoopSource>& source, Modes modes = Modes::all);
     void remove(const RunLoopSource& source);
 
@@ -119,8 +105,7 @@ public:
     void advance(SimulatedClock& clock, Time duration, RunLoopMode mode = RunLoopMode::standard);
 
 private:
-    struct Entry
-    {
+    struct Entry {
         std::weak_ptr<RunLoopSource> source;
         Modes modes;
     };

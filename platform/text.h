@@ -7,15 +7,10 @@
 
 namespace r7 {
 
-enum class TextAlignment
-{
-    left,
-    center
-};
+enum class TextAlignment { left, center };
 
 /// How a text is painted, in the one label font.
-struct TextAttributes
-{
+struct TextAttributes {
     double font_size = 9.0; ///< in points; not above 0, or not finite: nothing is painted
     TextAlignment alignment = TextAlignment::left;
     ColorRef color;

@@ -23,8 +23,7 @@ using ViewRef = std::shared_ptr<View>;
 /// Its frame lies in its superview's coordinates, its bounds have their origin at (0, 0) and the frame's
 /// size; y points upward. Overriders of the event operations may destroy any view, their own included:
 /// whoever delivers an event keeps the receiver alive until it returns.
-class View : public std::enable_shared_from_this<View>
-{
+class View : public std::enable_shared_from_this<View> {
 public:
     explicit View(const Rect& frame) : frame_(frame) {}
     virtual ~View();
@@ -84,6 +83,10 @@ private:
 
     // Tells this view and all below it that their window is another one now.
     void moved_to_window();
+    // Brings this view, if visible, and all visible ones below it up to date.
+    void update_tree();
+    // Paints this view and all below it, as far as they meet `dirty`, in the superview's coordinates.
+    void paint_tree(Graphics& graphics, const Rect& dirty);
 
     Rect frame_;
     bool hidden_ = false;

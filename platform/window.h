@@ -8,6 +8,7 @@
 
 #include <array>
 #include <memory>
+#include <utility>
 #include <vector>
 
 namespace r7 {
@@ -15,15 +16,10 @@ namespace r7 {
 class Graphics;
 class Window;
 
-enum class WindowLevel
-{
-    normal,
-    floating
-};
+enum class WindowLevel { normal, floating };
 
 /// The window system's side of a window: implemented by each back end, called by the window shown in it.
-class WindowBackend
-{
+class WindowBackend {
 public:
     virtual ~WindowBackend() = default;
 
@@ -42,8 +38,7 @@ public:
 /// lies above its parent, moves with it, and, where the back end has no windows of its own for children, is a
 /// layer of the parent's picture that takes the events above it first. Neither owns the other: whoever shows
 /// a window holds it.
-class Window : public std::enable_shared_from_this<Window>
-{
+class Window : public std::enable_shared_from_this<Window> {
 public:
     explicit Window(const Rect& frame) : frame_(frame) {}
     virtual ~Window();
@@ -103,19 +98,27 @@ public:
     void paint(Graphics& graphics, const Rect& dirty);
 
 private:
-    struct Target
-    {
+    // Who takes an event, and where the lower left corner of its window lies in this one.
+    struct Target {
         ViewRef view;
-        Point window_origin; // of the view's window, in this window's coordinates
+        Point window_origin;
+    };
+    struct Pressed {
+        std::weak_ptr<View> view;
+        Point window_origin;
     };
 
-    // The view under a point, child windows first.
+    // The view under a point, child windows first; none outside all of them.
     Target target_at(Point point) const;
-    // Offset of a child's coordinates in this window's.
-    Point offset_of(const Window& child) const;
-    template <typename Event>
-    Event seen_from(const Event& event, Point window_origin) const;
-    Window& root();
+    // Who took the press of a button, if it still exists.
+    Target pressed_by(MouseButton button) const;
+    // Lower left corner of a child, in this window's coordinates.
+    Point origin_of(const Window& child) const;
+    void detach_from_parent();
+    void update_views();
+    // The window at the end of the chain of parents.
+    const Window& root() const;
+    Window& root() { return const_cast<Window&>(std::as_const(*this).root()); }
 
     Rect frame_;
     ViewRef content_view_;
@@ -124,7 +127,7 @@ private:
     std::vector<Window*> children_;
     Window* key_window_ = nullptr; // in a root window only; null: the root itself
     std::weak_ptr<View> first_responder_;
-    std::array<Target, 2> pressed_{}; // by MouseButton
+    std::array<Pressed, 2> pressed_; // by MouseButton
     DirtyRegion dirty_;
 };
 

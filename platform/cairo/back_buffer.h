@@ -15,8 +15,7 @@ namespace r7 {
 class Window;
 
 /// Whole device pixels, origin at the picture's top left corner, y downward.
-struct PixelRect
-{
+struct PixelRect {
     int x = 0;
     int y = 0;
     int width = 0;
@@ -26,8 +25,7 @@ struct PixelRect
 /// An image surface of a window's size at a scale.
 ///
 /// The same calls give the same pixels on every machine, on a screen and off it.
-class BackBuffer final
-{
+class BackBuffer final {
 public:
     /// `size` in points, at least 1 by 1; `scale` is device pixels for a point, above 0. The picture
     /// starts black and opaque.

@@ -9,8 +9,7 @@
 namespace r7 {
 
 /// A window whose picture is painted when somebody looks at it.
-class OffscreenWindow final : public WindowBackend
-{
+class OffscreenWindow final : public WindowBackend {
 public:
     /// `frame` in screen points; `scale` is pixels for a point.
     OffscreenWindow(const Rect& frame, double scale);
