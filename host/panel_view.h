@@ -1,0 +1,74 @@
+// The panel: one Audio Unit's parameters and curves, shown by controls and edited with them.
+#pragma once
+
+#include "host/panel_outlets.h"
+#include "platform/audio_toolbox.h"
+#include "platform/bundle.h"
+#include "platform/image.h"
+#include "platform/view.h"
+#include "waveshaper/bezier_sequence.h"
+
+#include <memory>
+
+namespace r7 {
+
+/// The main view.
+///
+/// Values come in through the Audio Unit's events only, and go out through the controls' callbacks only;
+/// setting a control from an event tells nobody. The panel borrows the Audio Unit, which may go before it or
+/// after it, and owns its listener, which never outlives it. Everything happens on the thread that bound the
+/// panel. It may be destroyed at any moment on that thread, from inside its own callbacks too.
+class QmR7View final : public View, public PanelOutlets {
+public:
+    /// Loads the background image from `bundle`; a missing one leaves the panel without. The outlets are
+    /// connected by the loader, which then sends awakeFromNib.
+    QmR7View(const Rect& frame, std::shared_ptr<const Bundle> bundle);
+    ~QmR7View() override;
+
+    /// Binds the panel to a unit, or to none: listens to all parameters and properties and asks for every
+    /// value to be announced. The values arrive with the loop's next turns; until then, and unbound, the
+    /// controls keep what they show. The unit bound before is left first, even when it is the same.
+    void setAU(AudioUnit unit);
+    AudioUnit audio_unit() const { return mAU; }
+    /// The listener while bound, else none.
+    AUEventListenerRef event_listener() const { return mAUEventListener; }
+
+    /// Shows a change of the Audio Unit. `value` is the parameter's, and meaningless for a property.
+    void _eventListener_event_value(void* object, const AudioUnitEvent& event, Float32 value);
+    /// Reads a property of the unit into the panel. A failed read changes nothing.
+    void sequence_updated_from_au(SInt32 property);
+
+    /// A control was moved by the user. An unknown sender does nothing.
+    void knob_callback(View& sender);
+    /// Sets a parameter of the bound unit; the panel itself is not told of it. Unbound, nothing is sent.
+    void set_au_parameter_to_value(AudioUnitParameterID parameter, AudioUnitParameterValue value);
+
+    const _QM_R7_Bezier_Sequence& stage_one_data() const { return stage_one_waveshaper_data; }
+    const _QM_R7_Bezier_Sequence& stage_two_data() const { return stage_two_waveshaper_data; }
+    SInt32 tone_control_state() const { return zoomed_tone_control_state; }
+    SInt32 wave_shaper_state() const { return zoomed_wave_shaper_state; }
+
+    void drawRect(Graphics& graphics, const Rect& dirty) override;
+    /// Gives every control its images, range, start value, speeds and callback.
+    void awakeFromNib() override;
+
+private:
+    class Handle;
+
+    void _addListeners();
+    void _removeListeners();
+    void _synchronizeUIWithParameterValues();
+
+    std::shared_ptr<const Bundle> bundle_;
+    // What the controls call back: lent to them, so that they do not keep the panel alive.
+    std::shared_ptr<Handle> handle_;
+    ImageRef bgImage;
+    _QM_R7_Bezier_Sequence stage_one_waveshaper_data{};
+    _QM_R7_Bezier_Sequence stage_two_waveshaper_data{};
+    AudioUnit mAU = nullptr;
+    AUEventListenerRef mAUEventListener = nullptr;
+    SInt32 zoomed_tone_control_state = 0;
+    SInt32 zoomed_wave_shaper_state = 0;
+};
+
+} // namespace r7
