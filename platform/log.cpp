@@ -2,7 +2,6 @@
 #include "platform/log.h"
 
 #include <cstdio>
-#include <string>
 #include <utility>
 
 namespace r7 {
@@ -17,8 +16,7 @@ void log_message(std::string_view text)
         innermost->receiver_(text);
         return;
     }
-    const std::string line = std::string(text) + "\n";
-    std::fputs(line.c_str(), stderr);
+    std::fprintf(stderr, "%.*s\n", static_cast<int>(text.size()), text.data());
 }
 
 LogCapture::LogCapture(Receiver receiver) : receiver_(std::move(receiver)), outer_(innermost)
