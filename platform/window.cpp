@@ -91,7 +91,7 @@ void Window::make_key_and_order_front()
         std::rotate(std::ranges::find(siblings, this), std::ranges::find(siblings, this) + 1, siblings.end());
         if (parent_->backend_) parent_->backend_->child_windows_changed();
     }
-    if (can_become_key_window()) root().key_window_ = this;
+    if (canBecomeKeyWindow()) root().key_window_ = this;
 }
 
 bool Window::is_key_window() const

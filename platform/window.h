@@ -17,6 +17,11 @@ class Graphics;
 class Window;
 
 enum class WindowLevel { normal, floating };
+enum class WindowStyle { borderless = 0, titled = 1 };
+/// How the picture is kept; all back ends buffer it.
+enum class WindowBacking { retained = 0, nonretained = 1, buffered = 2 };
+/// Whether a window system's window is made at once or when the window is first shown.
+enum class WindowCreation { immediate, deferred };
 
 /// The window system's side of a window: implemented by each back end, called by the window shown in it.
 class WindowBackend {
@@ -40,12 +45,20 @@ public:
 /// a window holds it.
 class Window : public std::enable_shared_from_this<Window> {
 public:
-    explicit Window(const Rect& frame) : frame_(frame) {}
+    explicit Window(const Rect& frame, WindowStyle style = WindowStyle::titled,
+                    WindowBacking backing = WindowBacking::buffered,
+                    WindowCreation creation = WindowCreation::immediate)
+        : frame_(frame), style_(style), backing_(backing), creation_(creation)
+    {
+    }
     virtual ~Window();
     Window(const Window&) = delete;
     Window& operator=(const Window&) = delete;
 
     const Rect& frame() const { return frame_; }
+    WindowStyle style() const { return style_; }
+    WindowBacking backing() const { return backing_; }
+    WindowCreation creation() const { return creation_; }
     /// Where the window system has put the window; children move along.
     void set_frame_origin(Point origin);
 
@@ -65,7 +78,7 @@ public:
     /// Does nothing for a window that is no child of this one.
     void remove_child_window(Window& child);
 
-    virtual bool can_become_key_window() const { return true; }
+    virtual bool canBecomeKeyWindow() const { return true; }
     /// Makes this the window that keys go to, among its parent, itself and their children, if it can become
     /// that.
     void make_key_and_order_front();
@@ -121,6 +134,9 @@ private:
     Window& root() { return const_cast<Window&>(std::as_const(*this).root()); }
 
     Rect frame_;
+    WindowStyle style_;
+    WindowBacking backing_;
+    WindowCreation creation_;
     ViewRef content_view_;
     WindowBackend* backend_ = nullptr;
     Window* parent_ = nullptr;
