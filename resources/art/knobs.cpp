@@ -1,0 +1,160 @@
+// The knobs: turned aluminium with a red anodised top, and rubber with grip ribs.
+#include "resources/art/knobs.h"
+
+#include "resources/art/palette.h"
+#include "resources/art/shapes.h"
+
+#include <numbers>
+
+namespace r7::art {
+
+namespace {
+
+// A point of a round body, as the shaders want it.
+struct Polar
+{
+    double radius, angle, x, y; // x, y: the unit vector outward
+};
+
+Polar polar(Point p)
+{
+    const double radius = std::hypot(p.x, p.y), by = radius > 0.0 ? 1.0 / radius : 0.0;
+    return {radius, std::atan2(p.y, p.x), p.x * by, p.y * by};
+}
+
+// The short soft shadow of a round body, within the picture's margin around it.
+Tint shadow(Point p, double radius, double margin)
+{
+    const Point shifted{p.x - 0.33 * margin, p.y + 0.42 * margin};
+    const double cast = 1.0 - smooth_step(-0.45 * margin, 0.46 * margin, circle(shifted, radius));
+    const double contact = 1.0 - smooth_step(-0.2, 0.3 * margin, circle(p, radius));
+    return with_alpha(kShadow, std::max(0.62 * cast, 0.55 * contact));
+}
+
+// How a surface turned on a lathe reflects: brightest across the light's direction, dark along the tool
+// marks.
+double lathe_sheen(double angle)
+{
+    const double from_light = angle - std::atan2(kLight.y, kLight.x);
+    const double bow_tie = std::pow(0.5 + 0.5 * std::cos(2.0 * from_light), 3.0);
+    const double window = std::pow(0.5 + 0.5 * std::cos(2.0 * (from_light - 1.15)), 14.0);
+    return bow_tie + 0.35 * window;
+}
+
+// The normal of a body of revolution whose height falls by `fall` for each point outward.
+Vector turned_normal(const Polar& p, double fall)
+{
+    return normalized({p.x * fall, p.y * fall, 1.0});
+}
+
+Tint red_knob(Point point)
+{
+    constexpr double kTop = 20.6, kGroove = 21.6, kChamfer = 24.4, kRadius = 26.0;
+    const Polar p = polar(point);
+    const double tool_marks = 1.0 + 0.045 * noise(static_cast<int>(p.radius * 5.0));
+    const double sheen = lathe_sheen(p.angle);
+    if (p.radius > kGroove) {
+        const double knurl = p.radius > kChamfer ? 0.82 + 0.18 * std::cos(p.angle * 60.0) : 1.0;
+        const double fall =
+            p.radius > kChamfer ? 0.5 + 0.7 * (p.radius - kChamfer) / (kRadius - kChamfer) : 0.16;
+        const Tint metal = lit({kAluminium, 0.10, 20.0}, turned_normal(p, fall));
+        return scaled(metal, (0.34 + 0.80 * sheen) * tool_marks * knurl);
+    }
+    if (p.radius > kTop) return scaled(kRed, 0.10);
+    const double lip = smooth_step(kTop - 1.3, kTop - 0.2, p.radius);
+    const double fall = -0.10 * p.radius / kTop + 0.9 * lip;
+    const Tint top = lit({kRed, 0.02, 10.0}, turned_normal(p, fall));
+    const Tint lit_top = scaled(top, (0.58 + 0.75 * sheen) * tool_marks);
+    return mix(lit_top, kRedGlare, 0.16 * sheen);
+}
+
+struct Rubber
+{
+    double radius, plateau;
+    int ribs;
+    double fall, depth; // of the side, and of the grooves between the ribs, in points
+};
+
+constexpr Rubber kBigRubber{37.0, 28.6, 24, 4.6, 1.5};
+constexpr Rubber kSmallRubber{22.0, 16.4, 16, 3.4, 1.2};
+
+// 1 on a rib's crest, 0 in the groove beside it.
+double crest(const Rubber& rubber, double angle)
+{
+    return std::pow(0.5 + 0.5 * std::cos(angle * rubber.ribs), 0.6);
+}
+
+double height(const Rubber& rubber, double x, double y)
+{
+    const Polar p = polar({x, y});
+    if (p.radius < rubber.plateau) {
+        const double t = p.radius / rubber.plateau;
+        return -0.035 * rubber.plateau * (1.0 - t * t);
+    }
+    const double t = (p.radius - rubber.plateau) / (rubber.radius - rubber.plateau);
+    return -rubber.fall * t * t - rubber.depth * (1.0 - crest(rubber, p.angle)) * smooth_step(0.05, 0.5, t);
+}
+
+double outline(const Rubber& rubber, Point point)
+{
+    const Polar p = polar(point);
+    return p.radius - rubber.radius + 0.55 * rubber.depth * (1.0 - crest(rubber, p.angle));
+}
+
+Tint rubber_knob(const Rubber& rubber, Point point)
+{
+    const Vector normal =
+        normal_of([&](double x, double y) { return height(rubber, x, y); }, point.x, point.y, 0.15);
+    Tint tint = lit({kRubber, 0.05, 7.0}, normal);
+    // A groove round the flat top, and the sky in the parts that turn away from the viewer.
+    const double groove = std::abs(std::hypot(point.x, point.y) - rubber.plateau + 1.9) - 0.45;
+    tint = scaled(tint, 0.55 + 0.45 * smooth_step(-0.3, 0.3, groove));
+    return mix(tint, kSky, 0.10 * (1.0 - normal.z));
+}
+
+} // namespace
+
+void paint_knob(Canvas& canvas, KnobKind kind)
+{
+    const KnobShape& shape = shape_of(kind);
+    const double half = shape.picture * 0.5, margin = half - shape.radius;
+    canvas.shade(canvas.bounds(), [&](Point at) {
+        const Point p{at.x - half, at.y - half};
+        const auto body = [&]() -> Tint {
+            switch (kind) {
+            case KnobKind::red:
+                return circle(p, shape.radius) < 0.0 ? red_knob(p) : kClear;
+            case KnobKind::big_rubber:
+                return outline(kBigRubber, p) < 0.0 ? rubber_knob(kBigRubber, p) : kClear;
+            case KnobKind::small_rubber:
+                return outline(kSmallRubber, p) < 0.0 ? rubber_knob(kSmallRubber, p) : kClear;
+            }
+            return kClear;
+        };
+        return over(body(), shadow(p, shape.radius, margin));
+    });
+}
+
+void paint_marker(Canvas& canvas, Marker marker)
+{
+    constexpr double kSocket = 4.6, kDot = 3.5;
+    const bool held = marker == Marker::held;
+    canvas.shade(canvas.bounds(), [&](Point at) {
+        const Point p{at.x - kMarkerPicture * 0.5, at.y - kMarkerPicture * 0.5};
+        const double r = std::hypot(p.x, p.y);
+        Tint tint = with_alpha(kShadow, 0.7 * (1.0 - smooth_step(kSocket - 0.9, kSocket, r)));
+        if (held) {
+            const double glow = 1.0 - smooth_step(kDot - 1.0, kMarkerPicture * 0.5, r);
+            tint = over(with_alpha(kBlueGlow, 0.85 * glow * glow), tint);
+        }
+        if (r < kDot) {
+            const Tint core = held ? mix(kBlueHot, kBlueGlow, smooth_step(1.2, kDot, r))
+                                   : mix(kBlueDot, scaled(kBlueDot, 0.55), smooth_step(1.0, kDot, r));
+            const double glint = 1.0 - smooth_step(0.3, 1.6, std::hypot(p.x + 1.1, p.y - 1.2));
+            tint = mix(core, kBlueHot, (held ? 0.8 : 0.5) * glint);
+        }
+        return tint;
+    });
+}
+
+} // namespace r7::art

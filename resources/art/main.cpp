@@ -1,0 +1,58 @@
+// Draws the panel's images from its interface description.
+#include "resources/art/images.h"
+#include "resources/art/mock.h"
+
+#include <cstdio>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <vector>
+
+namespace {
+
+using namespace r7::art;
+
+constexpr char kUsage[] =
+    "usage: r7_art RESOURCES                     draw RESOURCES/images from RESOURCES/QmR7View.xml\n"
+    "       r7_art RESOURCES --mock FILE [SCALE]  a picture of the whole panel\n";
+
+bool write(const Canvas& canvas, const std::filesystem::path& path)
+{
+    if (canvas.write_png(path)) return true;
+    std::fprintf(stderr, "r7_art: cannot write %s\n", path.c_str());
+    return false;
+}
+
+bool draw_images(const Description& description, const std::filesystem::path& folder)
+{
+    for (const ImageRow& row : all_images(description))
+        if (!write(drawn(row, 1), folder / (row.name + ".png")) ||
+            !write(drawn(row, 2), folder / (row.name + "@2x.png")))
+            return false;
+    return true;
+}
+
+} // namespace
+
+int main(int count, char** words)
+{
+    const std::vector<std::string> arguments(words + 1, words + count);
+    const bool mock = arguments.size() >= 3 && arguments[1] == "--mock";
+    if (arguments.empty() || (arguments.size() > 1 && !mock) || arguments.size() > 4) {
+        std::fputs(kUsage, stderr);
+        return 2;
+    }
+
+    const std::filesystem::path resources = arguments[0], file = resources / "QmR7View.xml";
+    std::ifstream stream(file);
+    const std::string xml{std::istreambuf_iterator<char>(stream), {}};
+    std::string error;
+    const auto description = parse_description(xml, error);
+    if (!description) {
+        std::fprintf(stderr, "%s: %s\n", file.c_str(), error.c_str());
+        return 1;
+    }
+    if (!mock) return draw_images(*description, resources / "images") ? 0 : 1;
+    const int scale = arguments.size() == 4 && arguments[3] == "2" ? 2 : 1;
+    return write(mock_panel(*description, scale), arguments[2]) ? 0 : 1;
+}

@@ -1,0 +1,169 @@
+// "r7-bg": the face plate. In order: the brushed plate, the recesses of the groups, what surrounds each
+// control, the displays' glass, the header.
+#include "resources/art/plate.h"
+
+#include "resources/art/glass.h"
+#include "resources/art/lamps.h"
+#include "resources/art/lettering.h"
+#include "resources/art/palette.h"
+#include "resources/art/rows.h"
+#include "resources/art/shapes.h"
+
+#include <numbers>
+
+namespace r7::art {
+
+namespace {
+
+const TextStyle kTitleStyle{9.6, 2.0, kTitle};
+const TextStyle kLabelStyle{11.0, 0.0, kLabel};
+
+constexpr double kHeader = 44.0; // height of the header, from the top
+
+// Fine streaks along the plate, one a row of pixels, each slowly changing along its way.
+double grain(Point p, int scale)
+{
+    const int row = static_cast<int>(std::floor(p.y * scale));
+    const double along = p.x / 90.0 + 0.5 * noise(row, 7);
+    const int cell = static_cast<int>(std::floor(along));
+    return std::lerp(noise(cell, row), noise(cell + 1, row), smooth_step(0.0, 1.0, along - cell));
+}
+
+void paint_plate(Canvas& canvas)
+{
+    const Size size = canvas.size();
+    canvas.shade(
+        canvas.bounds(),
+        [&](Point p) {
+            const Tint base = mix(kPlateBottom, kPlateTop, p.y / size.height);
+            const double from_light =
+                std::hypot((p.x - 0.25 * size.width) / size.width, (p.y - 0.95 * size.height) / size.height);
+            return scaled(base, 1.10 - 0.22 * from_light + 0.035 * grain(p, canvas.scale()));
+        },
+        1);
+}
+
+// The scale of a knob: 11 ticks over 270 degrees, the gap at the bottom.
+void print_scale(Canvas& canvas, Point center, const KnobShape& shape)
+{
+    cairo_t* const context = canvas.context();
+    cairo_set_line_cap(context, CAIRO_LINE_CAP_BUTT);
+    for (int tick = 0; tick <= 10; ++tick) {
+        const bool major = tick % 5 == 0;
+        const double angle = (225.0 - 27.0 * tick) * std::numbers::pi / 180.0;
+        const double from = shape.scale_radius, to = from + (major ? 4.5 : 3.0);
+        cairo_move_to(context, center.x + from * std::cos(angle), center.y + from * std::sin(angle));
+        cairo_line_to(context, center.x + to * std::cos(angle), center.y + to * std::sin(angle));
+        cairo_set_line_width(context, major ? 1.6 : 1.1);
+        canvas.set_source(major ? kTickMajor : kTickMinor);
+        cairo_stroke(context);
+    }
+}
+
+// The dark of the plate where a knob stands, and the knob's longer shadow.
+void shade_below_knob(Canvas& canvas, const Rect& frame, Point center, const KnobShape& shape)
+{
+    canvas.shade(
+        inset(frame, -8.0),
+        [&](Point at) {
+            const Point p{at.x - center.x, at.y - center.y};
+            const double around = 1.0 - smooth_step(shape.radius - 1.0, shape.radius + 5.0, circle(p, 0.0));
+            const double cast = 1.0 - smooth_step(-5.0, 6.0, circle({p.x - 4.0, p.y + 5.5}, shape.radius));
+            return with_alpha(kShadow, std::max(0.45 * around, 0.40 * cast));
+        },
+        2);
+}
+
+void paint_knobs_surroundings(Canvas& canvas, const Description& description)
+{
+    for (const KnobRow& knob : kKnobs) {
+        const DescribedView* const view = description.find(knob.outlet);
+        if (!view) continue;
+        const KnobShape& shape = shape_of(knob.kind);
+        const Point center = center_of(view->frame);
+        shade_below_knob(canvas, view->frame, center, shape);
+        print_scale(canvas, center, shape);
+        print(canvas, knob.label, {center.x, view->frame.y - 12.0}, Anchor::center, kLabelStyle);
+    }
+}
+
+// The signs of a light's lamps, in the order of its states, each in its lamp's colour.
+void print_key(Canvas& canvas, const LightRow& light, Point middle)
+{
+    constexpr double kPitch = 12.0, kScale = 4.0 / kSignExtent;
+    int count = 0;
+    while (count < 10 && light.lamps[static_cast<std::size_t>(count)] >= 0) ++count;
+    for (int i = 0; i < count; ++i) {
+        const LampRow& lamp = kLamps[light.lamps[static_cast<std::size_t>(i)]];
+        const Point center{middle.x + (i - 0.5 * (count - 1)) * kPitch, middle.y};
+        const Tint tint = mix(srgb(lamp.color), kLabel, 0.25);
+        canvas.shade({center.x - 6.0, center.y - 6.0, 12.0, 12.0}, [&](Point at) {
+            const Point p{(at.x - center.x) / kScale, (at.y - center.y) / kScale};
+            return sign_distance(lamp.sign, p) < 0.0 ? tint : kClear;
+        });
+    }
+}
+
+void paint_groups(Canvas& canvas)
+{
+    for (const GroupRow& group : kGroups) {
+        cut_recess(canvas, inset(group.room, -kGroupMargin), 8.0, 0.42);
+        print(canvas, group.title, {group.room.x + 8.0, group.room.top() - 16.0}, Anchor::left, kTitleStyle);
+    }
+}
+
+void paint_header(Canvas& canvas)
+{
+    const double top = canvas.size().height;
+    print(canvas, "R7", {20.0, top - 32.0}, Anchor::left, {28.0, 0.0, kTitle});
+    print(canvas, "QUILLMERE", {944.0, top - 27.0}, Anchor::right, {9.6, 3.0, kLabel});
+    static_cast<void>(kHeader);
+}
+
+} // namespace
+
+void cut_recess(Canvas& canvas, const Rect& room, double corner, double depth)
+{
+    canvas.shade(
+        inset(room, -2.0),
+        [&](Point p) {
+            const auto distance = [&](double x, double y) { return rounded_box({x, y}, room, corner); };
+            const double d = distance(p.x, p.y);
+            if (d >= 1.0) return kClear;
+            if (d >= 0.0) {
+                const Vector inward = normal_of(distance, p.x, p.y);
+                const double facing = (inward.x * kLight.x + inward.y * kLight.y) / 0.55;
+                return facing < 0.0 ? with_alpha(kEdgeDark, 0.85 * -facing)
+                                    : with_alpha(kEdgeLight, 0.60 * facing);
+            }
+            const double shadow = smooth_step(-5.0, 2.5, distance(p.x - 1.6, p.y + 2.2));
+            return over(with_alpha(kShadow, 0.55 * shadow), with_alpha(kEdgeDark, depth));
+        },
+        2);
+}
+
+void paint_background(Canvas& canvas, const Description& description)
+{
+    paint_plate(canvas);
+    paint_groups(canvas);
+    paint_knobs_surroundings(canvas, description);
+    for (const SwitchRow& row : kSwitches) {
+        const DescribedView* const view = description.find(row.outlet);
+        if (!view) continue;
+        const Point center = center_of(view->frame);
+        if (row.kind == SwitchKind::push_button)
+            print(canvas, row.label, {center.x, view->frame.y - 20.0}, Anchor::center, kLabelStyle);
+        else
+            print(canvas, row.label, {view->frame.x - 12.0, center.y - 4.0}, Anchor::right, kLabelStyle);
+    }
+    if (const DescribedView* const light = description.find("delay_on_indicator_light"))
+        print(canvas, "On", {center_of(light->frame).x, 236.0}, Anchor::center, kLabelStyle);
+    print_key(canvas, kLights[0], {488.0, 520.0});
+    print_key(canvas, kLights[2], {596.0, 520.0});
+    for (const DisplayRow& row : kDisplays)
+        if (const DescribedView* const view = description.find(row.outlet))
+            paint_display(canvas, view->frame, row, kTitleStyle);
+    paint_header(canvas);
+}
+
+} // namespace r7::art

@@ -1,0 +1,55 @@
+// The signs of the lamps, as shapes.
+#include "resources/art/signs.h"
+
+#include "resources/art/shapes.h"
+
+namespace r7::art {
+
+namespace {
+
+constexpr double kStroke = 2.2; // half the width of a bar
+
+double plus(Point p)
+{
+    return std::min(box(p, kSignExtent, kStroke), box(p, kStroke, kSignExtent));
+}
+
+double triangle(Point p)
+{
+    constexpr double kSlope = 0.866;
+    const double sides = kSlope * std::abs(p.x) + 0.5 * p.y - 3.6;
+    return std::max(sides, -p.y - 5.4);
+}
+
+} // namespace
+
+double sign_distance(Sign sign, Point p)
+{
+    switch (sign) {
+    case Sign::none:
+        break;
+    case Sign::ring:
+        return std::abs(circle(p, kSignExtent - kStroke)) - kStroke * 0.9;
+    case Sign::bar:
+        return box(p, kStroke * 1.1, kSignExtent);
+    case Sign::triangle:
+        return triangle(p);
+    case Sign::twin_bars:
+        return box({p.x, std::abs(p.y) - 3.6}, kSignExtent, 1.8);
+    case Sign::plus:
+        return plus(p);
+    case Sign::lozenge:
+        return box(turned(p, 45.0), 4.9, 4.9);
+    case Sign::dash:
+        return box(p, kSignExtent, kStroke * 1.1);
+    case Sign::cross:
+        return plus(turned(p, 45.0));
+    case Sign::half_disc:
+        return std::max(circle(p, kSignExtent), p.x);
+    case Sign::dot:
+        return circle(p, 4.0);
+    }
+    return 1e3;
+}
+
+} // namespace r7::art
