@@ -15,8 +15,7 @@ namespace r7 {
 ///
 /// Phases are radians and are not normalised. One that came from cartesian form lies in (-pi, pi]; each
 /// operation says what it does to its own.
-class Qm_ObjectiveComplex final
-{
+class Qm_ObjectiveComplex final {
 public:
     /// Zero, in both forms.
     Qm_ObjectiveComplex() = default;

@@ -12,20 +12,9 @@ namespace {
 
 constexpr float kInitialSampleRate = 44100.0f;
 
-enum Band : std::size_t
-{
-    kBass,
-    kLowMid,
-    kMid,
-    kHighMid,
-    kTreble
-};
-static_assert(kTreble + 1 == kToneBands);
-
 /// What every design starts from: A, the square root of the gain as a factor, and the angle's sine and
 /// cosine.
-struct Design
-{
+struct Design {
     Design(float angle, float gain_db)
         : A(std::pow(10.0f, gain_db * 0.025f)), sn(std::sin(angle)), cs(std::cos(angle))
     {
@@ -101,8 +90,8 @@ float Qm_ObjectiveToneControl::responseForFrequency(float frequency_hz) const
     const auto z = Qm_ObjectiveComplex::initWithMagnitude_Angle(1.0f, angle_of(frequency_hz));
     const auto z2 = z.mult(z);
 
-    auto product = transfer(sections_[kTreble], z, z2);
-    for (const auto band : {kHighMid, kMid, kLowMid, kBass})
+    auto product = transfer(sections_[kToneHigh], z, z2);
+    for (const auto band : {kToneHighMid, kToneMid, kToneLowMid, kToneLow})
         product = transfer(sections_[band], z, z2).mult(product);
     return 20.0f * std::log10(product.magnitude());
 }
@@ -120,27 +109,27 @@ void Qm_ObjectiveToneControl::set_sample_rate(float rate)
 
 void Qm_ObjectiveToneControl::setBassFrequency_dbGain_slope(float frequency_hz, float gain_db, float slope)
 {
-    sections_[kBass] = low_shelf({angle_of(frequency_hz), gain_db}, slope);
+    sections_[kToneLow] = low_shelf({angle_of(frequency_hz), gain_db}, slope);
 }
 
 void Qm_ObjectiveToneControl::setLowMidFrequency_dbGain_Q(float frequency_hz, float gain_db, float q)
 {
-    sections_[kLowMid] = peak({angle_of(frequency_hz), gain_db}, q);
+    sections_[kToneLowMid] = peak({angle_of(frequency_hz), gain_db}, q);
 }
 
 void Qm_ObjectiveToneControl::setMidFrequency_dbGain_Q(float frequency_hz, float gain_db, float q)
 {
-    sections_[kMid] = peak({angle_of(frequency_hz), gain_db}, q);
+    sections_[kToneMid] = peak({angle_of(frequency_hz), gain_db}, q);
 }
 
 void Qm_ObjectiveToneControl::setHighMidFrequency_dbGain_Q(float frequency_hz, float gain_db, float q)
 {
-    sections_[kHighMid] = peak({angle_of(frequency_hz), gain_db}, q);
+    sections_[kToneHighMid] = peak({angle_of(frequency_hz), gain_db}, q);
 }
 
 void Qm_ObjectiveToneControl::setTrebleFrequency_dbGain_slope(float frequency_hz, float gain_db, float slope)
 {
-    sections_[kTreble] = high_shelf({angle_of(frequency_hz), gain_db}, slope);
+    sections_[kToneHigh] = high_shelf({angle_of(frequency_hz), gain_db}, slope);
 }
 
 } // namespace r7

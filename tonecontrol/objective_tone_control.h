@@ -6,12 +6,12 @@
 
 namespace r7 {
 
-/// The bands in the order in which they are numbered, stored and multiplied.
+/// The bands: a low shelf, three peaks, a high shelf.
+enum ToneBand : std::size_t { kToneLow, kToneLowMid, kToneMid, kToneHighMid, kToneHigh };
 inline constexpr std::size_t kToneBands = 5;
 
 /// One second-order section, (a0 + a1/z + a2/z^2) / (1 + b1/z + b2/z^2).
-struct ToneSection
-{
+struct ToneSection {
     float a0 = 0.0f;
     float a1 = 0.0f;
     float a2 = 0.0f;
@@ -26,8 +26,7 @@ struct ToneSection
 /// shelf. Everything is single precision but the multiplication by 2 pi. No argument is checked: a frequency
 /// at or above half the sample rate, or a Q, slope or rate of zero, is computed as it comes and may give
 /// non-finite coefficients.
-class Qm_ObjectiveToneControl final
-{
+class Qm_ObjectiveToneControl final {
 public:
     /// At 44100 Hz, with every coefficient 0.
     Qm_ObjectiveToneControl();

@@ -17,8 +17,7 @@ namespace r7 {
 /// multiplication by a coefficient is their sine and cosine, which depend on the coefficient by its sign
 /// alone: they are tabulated for a grid and a sample rate. The magnitudes of each section are kept, and
 /// redone only where the section's coefficients have changed.
-class ResponseCurve final
-{
+class ResponseCurve final {
 public:
     /// A hundred steps and both their ends, rounded up to whole vectors of eight.
     static constexpr std::size_t kCapacity = 104;
@@ -34,15 +33,13 @@ private:
     using Row = std::array<float, kCapacity>;
 
     /// Numbers of magnitude one, one for each frequency.
-    struct Phasors
-    {
+    struct Phasors {
         Row cosine{};
         Row sine{};
     };
     /// The same after a multiplication by a real number, but for the magnitude, which that multiplication
     /// gives.
-    struct Multiples
-    {
+    struct Multiples {
         Phasors by_positive;
         Phasors by_negative;
         const Phasors& by(float f) const { return f >= 0.0f ? by_positive : by_negative; }

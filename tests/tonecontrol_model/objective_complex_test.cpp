@@ -54,8 +54,7 @@ bool is_cartesian(const Complex& z, float re, float im)
 TEST(ComplexNumber, OperationsOnPolarFormTurnThePhaseAsTold)
 {
     const float half_back = turned(0.5f, -kPi);
-    const struct
-    {
+    const struct {
         const char* what;
         Complex result;
         float magnitude, phase;

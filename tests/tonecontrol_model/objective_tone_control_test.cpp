@@ -16,15 +16,9 @@ namespace {
 using Model = Qm_ObjectiveToneControl;
 using Setter = void (Model::*)(float, float, float);
 
-enum class Shape
-{
-    low_shelf,
-    peak,
-    high_shelf
-};
+enum class Shape { low_shelf, peak, high_shelf };
 
-constexpr struct
-{
+constexpr struct {
     Setter set;
     Shape shape;
 } kBands[] = {
@@ -110,8 +104,7 @@ TEST(ToneControlModel, StaysWithinAHundredthOfADecibelOfTheCookbook)
 // rounded.
 TEST(ToneControlModel, RoundsEveryOperationInItsOrder)
 {
-    const struct
-    {
+    const struct {
         std::size_t band;
         float settings[3];
         ToneSection expected;

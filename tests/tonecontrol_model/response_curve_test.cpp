@@ -20,8 +20,7 @@ constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
 
 /// Random settings, mostly of the sort that a user can reach and now and then of the sort that only a stray
 /// parameter has.
-class Settings
-{
+class Settings {
 public:
     explicit Settings(unsigned seed) : random_(seed) {}
 
