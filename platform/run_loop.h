@@ -1,6 +1,7 @@
 // The loop of one thread: serves files, times and what other threads signal.
 #pragma once
 
+#include <atomic>
 #include <chrono>
 #include <memory>
 #include <optional>
@@ -14,6 +15,7 @@ using Time = std::chrono::nanoseconds;
 class Clock {
 public:
     virtual ~Clock() = default;
+    /// May be asked from any thread. Never goes back.
     virtual Time now() const = 0;
 };
 
@@ -26,45 +28,53 @@ public:
 /// A clock that moves when it is told; starts at 0.
 class SimulatedClock final : public Clock {
 public:
-    Time now() const override { return now_; }
-    /// Never back: an earlier time changes nothing.
+    Time now() const override { return now_.load(); }
+    /// Never back: an earlier time changes nothing. On one thread at a time.
     void move_to(Time time);
 
 private:
-    Time now_{0};
+    std::atomic<Time> now_{Time{0}};
 };
 
 /// What a loop is doing: sources are served in the modes that they were added for.
 enum class RunLoopMode { standard, modal };
 
 /// Something that a run loop serves.
+///
+/// The questions are asked before every sleep and before serving; answering them adds and removes no sources.
 class RunLoopSource {
 public:
     virtual ~RunLoopSource() = default;
-    /// A file descriptor; the source is served when it can be read. -1: none.
+    /// A file descriptor, or -1 for none. The source is served when it can be read, has failed or was closed;
+    /// by then somebody else may have read what there was.
     virtual int file_descriptor() const { return -1; }
-    /// Whether there is work although neither file nor time says so (a library's own queue). Asked before
-    /// every sleep.
+    /// Whether there is work although neither file nor time says so (a library's own queue).
     virtual bool is_pending() { return false; }
-    /// When the source wants to be served, or nothing. Asked before every sleep; may be answered from another
-    /// thread's words (RunLoopWaker).
+    /// When the source wants to be served, or nothing. Another thread that makes this an earlier time wakes
+    /// the loop (RunLoopWaker).
     virtual std::optional<Time> due() const { return std::nullopt; }
-    /// Does what there is to do. May add and remove sources, itself included, and run the loop in another
-    /// mode.
+    /// Does what there is to do. May add, remove and destroy sources, itself included, and run the loop in
+    /// another mode.
     virtual void serve() = 0;
+    /// The loop is going, and its clock may follow.
+    virtual void run_loop_ended() {}
 };
 
 /// Wakes a loop from any thread, without allocating or blocking; outlives the loop for whoever holds it.
-class RunLoopWaker {
+class RunLoopWaker final {
 public:
+    /// Throws std::system_error where the process can open no more files.
     RunLoopWaker();
     ~RunLoopWaker();
     RunLoopWaker(const RunLoopWaker&) = delete;
     RunLoopWaker& operator=(const RunLoopWaker&) = delete;
+    /// Ends the sleep that the loop is in, or else its next one.
     void wake() const noexcept;
 
 private:
     friend class RunLoop;
+    void forget_wakes() const noexcept;
+
     int event_file_ = -1;
 };
 
@@ -73,6 +83,8 @@ private:
 /// The one made last on a thread, and not yet gone, is the thread's current loop.
 class RunLoop final {
 public:
+    enum class Modes { standard_only, all };
+
     /// `clock` outlives the loop.
     explicit RunLoop(const Clock& clock);
     ~RunLoop();
@@ -86,32 +98,44 @@ public:
     const Clock& clock() const { return clock_; }
     std::shared_ptr<const RunLoopWaker> waker() const { return waker_; }
 
-    /// Serves `source` from now on, in the standard mode only or in every mode. The loop does not own it: a
-    /// source that is gone is served no more.
-    enum class Modes { standard_only, all };
+    /// Serves `source`, from the next turn on and after those added before, in the standard mode only or in
+    /// every mode. A source that was added before comes last now, in the modes given last. The loop does not
+    /// own it: a source that is gone is served no more.
     void add(const std::shared_ptr<RunLoopSource>& source, Modes modes = Modes::all);
     void remove(const RunLoopSource& source);
 
     /// One turn: sleeps until something is to be done, or for `at_most`, whichever is first (never on a
     /// simulated clock's account: with one, pass 0), then serves every source that has work, once, in the
-    /// order of adding.
+    /// order of adding. Sleeps end on whole milliseconds, a little late rather than early.
     void turn(std::optional<Time> at_most, RunLoopMode mode = RunLoopMode::standard);
     /// Turns until stop() is called.
     void run(RunLoopMode mode = RunLoopMode::standard);
+    /// Ends the innermost run() after this turn, or, where none is under way, the next one before its first.
     void stop() { stopped_ = true; }
 
-    /// Moves a simulated clock, which must be this loop's, on by `duration`, stopping to serve at each time
-    /// that is due on the way, in order, and at the end.
+    /// Moves a simulated clock, which must be this loop's, on by `duration`, taking a turn at once, at each
+    /// time that a source is due on the way, and at the end. A source that is due again at the time at which
+    /// it was served waits for the next of these turns.
     void advance(SimulatedClock& clock, Time duration, RunLoopMode mode = RunLoopMode::standard);
 
 private:
     struct Entry {
         std::weak_ptr<RunLoopSource> source;
         Modes modes;
+
+        bool is_served_in(RunLoopMode mode) const
+        {
+            return modes == Modes::all || mode == RunLoopMode::standard;
+        }
     };
 
+    // Whether the source is still to be served, in whichever modes.
+    bool has(const RunLoopSource& source) const;
+    // The earliest time after `time` that a source is due at, or nothing.
+    std::optional<Time> next_due_after(Time time, RunLoopMode mode) const;
+
     const Clock& clock_;
-    std::shared_ptr<RunLoopWaker> waker_;
+    std::shared_ptr<RunLoopWaker> waker_ = std::make_shared<RunLoopWaker>();
     std::vector<Entry> entries_;
     RunLoop* outer_ = nullptr; // the thread's loop before this one
     bool stopped_ = false;
