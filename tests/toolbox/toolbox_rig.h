@@ -1,0 +1,83 @@
+// A listener that writes down what it hears, and short names for what the toolbox is told.
+#pragma once
+
+#include "platform/audio_toolbox.h"
+
+#include <charconv>
+#include <functional>
+#include <string>
+
+namespace r7 {
+
+inline AudioUnitEvent event_of(AudioUnitEventType type, AudioUnit unit, UInt32 id, UInt32 scope = 0,
+                               UInt32 element = 0)
+{
+    if (type == kAudioUnitEvent_PropertyChange) return {type, {.mProperty = {unit, id, scope, element}}};
+    return {type, {.mParameter = {unit, id, scope, element}}};
+}
+
+inline AudioUnitEvent value_change(AudioUnit unit, UInt32 id)
+{
+    return event_of(kAudioUnitEvent_ParameterValueChange, unit, id);
+}
+
+inline AudioUnitEvent property_change(AudioUnit unit, UInt32 id)
+{
+    return event_of(kAudioUnitEvent_PropertyChange, unit, id);
+}
+
+inline OSStatus set(AUEventListenerRef sender, AudioUnit unit, UInt32 id, Float32 value)
+{
+    const AudioUnitParameter parameter{unit, id, kAudioUnitScope_Global, 0};
+    return AUParameterSet(sender, nullptr, &parameter, value, 0);
+}
+
+inline OSStatus notify(AUEventListenerRef sender, const AudioUnitEvent& event)
+{
+    return AUEventListenerNotify(sender, nullptr, &event);
+}
+
+/// A listener on the current run loop that writes `ID=VALUE ` for each change of a parameter and `pID=VALUE `
+/// for other events.
+struct RecordingListener {
+    explicit RecordingListener(Float32 interval = 0.05F)
+    {
+        AUEventListenerCreate(&RecordingListener::called, this, CFRunLoopGetCurrent(), kCFRunLoopDefaultMode,
+                              interval, interval, &handle);
+    }
+    ~RecordingListener() { AUListenerDispose(handle); }
+    RecordingListener(const RecordingListener&) = delete;
+    RecordingListener& operator=(const RecordingListener&) = delete;
+
+    OSStatus ask_for(const AudioUnitEvent& event)
+    {
+        return AUEventListenerAddEventType(handle, this, &event);
+    }
+    std::string take_heard()
+    {
+        std::string text;
+        text.swap(heard);
+        return text;
+    }
+
+    static void called(void* self, void* object, const AudioUnitEvent* event, UInt64 time, Float32 value)
+    {
+        auto& listener = *static_cast<RecordingListener*>(self);
+        char number[32];
+        const auto end = std::to_chars(number, number + sizeof number, value).ptr;
+        if (event->mEventType != kAudioUnitEvent_ParameterValueChange) listener.heard += 'p';
+        listener.heard += std::to_string(event->mArgument.mParameter.mParameterID) + '=';
+        listener.heard.append(number, end) += ' ';
+        listener.last_object = object;
+        listener.last_time = time;
+        if (listener.during_call) listener.during_call();
+    }
+
+    AUEventListenerRef handle = nullptr;
+    std::string heard;
+    void* last_object = nullptr;
+    UInt64 last_time = 0;
+    std::function<void()> during_call;
+};
+
+} // namespace r7
