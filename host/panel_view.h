@@ -2,15 +2,23 @@
 #pragma once
 
 #include "host/panel_outlets.h"
+#include "host/panel_tables.h"
 #include "platform/audio_toolbox.h"
 #include "platform/bundle.h"
 #include "platform/image.h"
 #include "platform/view.h"
 #include "waveshaper/bezier_sequence.h"
 
+#include <cstdint>
 #include <memory>
 
 namespace r7 {
+
+struct PanelHandle;
+
+/// The callback of the panel's listener; `panel` is the QmR7View that listens. The host time is dropped.
+void EventListenerDispatcher(void* panel, void* object, const AudioUnitEvent* event, UInt64 host_time,
+                             AudioUnitParameterValue value) noexcept;
 
 /// The main view.
 ///
@@ -36,7 +44,7 @@ public:
     /// Shows a change of the Audio Unit. `value` is the parameter's, and meaningless for a property.
     void _eventListener_event_value(void* object, const AudioUnitEvent& event, Float32 value);
     /// Reads a property of the unit into the panel. A failed read changes nothing.
-    void sequence_updated_from_au(SInt32 property);
+    void sequence_updated_from_au(std::int32_t property);
 
     /// A control was moved by the user. An unknown sender does nothing.
     void knob_callback(View& sender);
@@ -45,30 +53,33 @@ public:
 
     const _QM_R7_Bezier_Sequence& stage_one_data() const { return stage_one_waveshaper_data; }
     const _QM_R7_Bezier_Sequence& stage_two_data() const { return stage_two_waveshaper_data; }
-    SInt32 tone_control_state() const { return zoomed_tone_control_state; }
-    SInt32 wave_shaper_state() const { return zoomed_wave_shaper_state; }
+    std::int32_t tone_control_state() const { return zoomed_tone_control_state; }
+    std::int32_t wave_shaper_state() const { return zoomed_wave_shaper_state; }
 
     void drawRect(Graphics& graphics, const Rect& dirty) override;
     /// Gives every control its images, range, start value, speeds and callback.
     void awakeFromNib() override;
 
 private:
-    class Handle;
-
     void _addListeners();
     void _removeListeners();
     void _synchronizeUIWithParameterValues();
 
+    void parameter_changed(AudioUnitParameterID id, float value);
+    void knob_moved(const KnobRow& row);
+    void switch_moved(const SwitchRow& row);
+    void show_lamp(const LampOutlet& lamp, std::int32_t state);
+
     std::shared_ptr<const Bundle> bundle_;
     // What the controls call back: lent to them, so that they do not keep the panel alive.
-    std::shared_ptr<Handle> handle_;
+    std::shared_ptr<PanelHandle> handle_;
     ImageRef bgImage;
     _QM_R7_Bezier_Sequence stage_one_waveshaper_data{};
     _QM_R7_Bezier_Sequence stage_two_waveshaper_data{};
     AudioUnit mAU = nullptr;
     AUEventListenerRef mAUEventListener = nullptr;
-    SInt32 zoomed_tone_control_state = 0;
-    SInt32 zoomed_wave_shaper_state = 0;
+    std::int32_t zoomed_tone_control_state = 0;
+    std::int32_t zoomed_wave_shaper_state = 0;
 };
 
 } // namespace r7
