@@ -15,15 +15,15 @@ const double kQuarterTangent = 4.0 / 3.0 * std::tan(std::numbers::pi / 8.0);
 // Degrees that the arc really sweeps, 0 to 360, from the difference of its angles in its own direction.
 double reduced_sweep(double sweep)
 {
-    if (std::isnan(sweep) || sweep == 0.0) return 0.0;
+    if (sweep == 0.0) return 0.0;
     if (std::isinf(sweep) || sweep >= 360.0) return 360.0;
     const double rest = std::fmod(sweep, 360.0);
     if (rest == 0.0) return 360.0;
     return rest < 0.0 ? rest + 360.0 : rest;
 }
 
-// The largest number of lines that one curve is flattened into: enough for a curve as wide as a screen.
-constexpr int kMostLines = 64;
+// The largest number of lines that one curve is flattened into: enough for a curve as wide as several screens.
+constexpr int kMostLines = 512;
 
 } // namespace
 
@@ -86,7 +86,7 @@ void Path::append_arc(Point center, double radius, double start_degrees, double 
     const double sweep = reduced_sweep((end_degrees - start_degrees) * turn);
     constexpr double kRadians = std::numbers::pi / 180.0;
     const double start = std::fmod(start_degrees, 360.0) * kRadians;
-    if (!std::isfinite(start)) return;
+    if (!std::isfinite(start) || std::isnan(sweep)) return;
 
     const auto on_circle = [&](double angle) {
         return Point{center.x + std::cos(angle) * radius, center.y + std::sin(angle) * radius};

@@ -52,8 +52,8 @@ public:
     /// A line leads to the arc's start where the path has a current point, a move otherwise. A clockwise arc
     /// covers (start - end) modulo 360, a counterclockwise one (end - start) modulo 360; equal angles add
     /// nothing but the line, an exact non-zero multiple of 360 and everything beyond one turn a full ring.
-    /// The sweep is reduced here, so that ten thousand turns cost no more than one; a NaN adds nothing, an
-    /// infinity a full ring.
+    /// The sweep is reduced here, so that ten thousand turns cost no more than one. An infinite end is a full
+    /// ring; a NaN or an infinite start adds nothing.
     void append_arc(Point center, double radius, double start_degrees, double end_degrees,
                     Direction direction);
 
