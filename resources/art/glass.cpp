@@ -11,6 +11,8 @@ namespace r7::art {
 
 namespace {
 
+const TextStyle kGridStyle{9.15, 0.0, kGridLetter};
+
 void paint_glass(Canvas& canvas, const Rect& glass)
 {
     constexpr double kCorner = 6.0;
@@ -74,25 +76,40 @@ void print_tone_grid(Canvas& canvas, const Rect& frame)
             if (digit * decade > kLowest) grid.vertical(x_of(digit * decade), digit == 1 ? 0.34 : 0.11);
     for (const double db : {-20.0, 0.0, 20.0}) grid.horizontal(y_of(db), db == 0.0 ? 0.42 : 0.22);
 
-    const TextStyle style{9.15, 0.0, kGridLetter};
     const struct
     {
         double hz;
         const char* text;
     } decades[] = {{100.0, "100"}, {1000.0, "1k"}, {10000.0, "10k"}};
     for (const auto& [hz, text] : decades)
-        print(canvas, text, {std::floor(x_of(hz)) + 4.0, frame.top() - 10.0}, Anchor::left, style);
+        print(canvas, text, {std::floor(x_of(hz)) + 4.0, frame.top() - 10.0}, Anchor::left, kGridStyle);
+    print(canvas, "+20 dB", {frame.x + 4.0, std::floor(y_of(20.0)) + 3.0}, Anchor::left, kGridStyle);
+}
+
+// The black window that the view puts its mode letter into, 10 x 15 points at the bottom of the frame's
+// middle.
+void cut_letter_window(Canvas& canvas, const Rect& frame)
+{
+    constexpr double kEdge = 1.0;
+    const Rect window{center_of(frame).x - 12.0, frame.y - 1.0, 24.0, 17.0};
+    canvas.shade(inset(window, -kEdge), [&](Point p) {
+        const double d = rounded_box(p, window, 3.0);
+        return d < 0.0 ? kShadow : d < kEdge ? with_alpha(kGridLine, 0.34) : kClear;
+    });
 }
 
 // Amplitudes -pi to pi and -2 to 2 over a graph that is inset by 5 points.
 void print_waveshaper_grid(Canvas& canvas, const Rect& frame)
 {
     const Rect graph = inset(frame, 5.0);
+    const auto y_of = [&](double out) { return graph.y + graph.height * (out / 4.0 + 0.5); };
     Grid grid(canvas, graph);
     for (const double in : {-1.0, 0.0, 1.0})
         grid.vertical(graph.x + graph.width * (in / (2.0 * std::numbers::pi) + 0.5), in == 0.0 ? 0.42 : 0.22);
-    for (const double out : {-1.0, 0.0, 1.0})
-        grid.horizontal(graph.y + graph.height * (out / 4.0 + 0.5), out == 0.0 ? 0.42 : 0.22);
+    for (const double out : {-1.0, 0.0, 1.0}) grid.horizontal(y_of(out), out == 0.0 ? 0.42 : 0.22);
+    print(canvas, "+1", {graph.x, std::floor(y_of(1.0)) + 3.0}, Anchor::left, kGridStyle);
+    print(canvas, "-1", {graph.x, std::floor(y_of(-1.0)) - 10.0}, Anchor::left, kGridStyle);
+    cut_letter_window(canvas, frame);
 }
 
 } // namespace

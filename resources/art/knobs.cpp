@@ -75,13 +75,13 @@ struct Rubber
     double fall, depth; // of the side, and of the grooves between the ribs, in points
 };
 
-constexpr Rubber kBigRubber{37.0, 28.6, 24, 4.6, 1.5};
-constexpr Rubber kSmallRubber{22.0, 16.4, 16, 3.4, 1.2};
+constexpr Rubber kBigRubber{37.0, 29.0, 20, 6.5, 2.6};
+constexpr Rubber kSmallRubber{22.0, 16.8, 14, 4.4, 1.9};
 
 // 1 on a rib's crest, 0 in the groove beside it.
 double crest(const Rubber& rubber, double angle)
 {
-    return std::pow(0.5 + 0.5 * std::cos(angle * rubber.ribs), 0.6);
+    return std::pow(0.5 + 0.5 * std::cos(angle * rubber.ribs), 0.4);
 }
 
 double height(const Rubber& rubber, double x, double y)
@@ -89,23 +89,24 @@ double height(const Rubber& rubber, double x, double y)
     const Polar p = polar({x, y});
     if (p.radius < rubber.plateau) {
         const double t = p.radius / rubber.plateau;
-        return -0.035 * rubber.plateau * (1.0 - t * t);
+        return -0.10 * rubber.plateau * t * t - 0.5 * smooth_step(0.93, 1.0, t);
     }
     const double t = (p.radius - rubber.plateau) / (rubber.radius - rubber.plateau);
-    return -rubber.fall * t * t - rubber.depth * (1.0 - crest(rubber, p.angle)) * smooth_step(0.05, 0.5, t);
+    return -0.10 * rubber.plateau - 0.5 - rubber.fall * t * t -
+           rubber.depth * (1.0 - crest(rubber, p.angle)) * smooth_step(0.05, 0.5, t);
 }
 
 double outline(const Rubber& rubber, Point point)
 {
     const Polar p = polar(point);
-    return p.radius - rubber.radius + 0.55 * rubber.depth * (1.0 - crest(rubber, p.angle));
+    return p.radius - rubber.radius + 0.45 * rubber.depth * (1.0 - crest(rubber, p.angle));
 }
 
 Tint rubber_knob(const Rubber& rubber, Point point)
 {
     const Vector normal =
         normal_of([&](double x, double y) { return height(rubber, x, y); }, point.x, point.y, 0.15);
-    Tint tint = lit({kRubber, 0.05, 7.0}, normal);
+    Tint tint = lit({kRubber, 0.085, 9.0}, normal);
     // A groove round the flat top, and the sky in the parts that turn away from the viewer.
     const double groove = std::abs(std::hypot(point.x, point.y) - rubber.plateau + 1.9) - 0.45;
     tint = scaled(tint, 0.55 + 0.45 * smooth_step(-0.3, 0.3, groove));
@@ -137,7 +138,7 @@ void paint_knob(Canvas& canvas, KnobKind kind)
 
 void paint_marker(Canvas& canvas, Marker marker)
 {
-    constexpr double kSocket = 4.6, kDot = 3.5;
+    constexpr double kSocket = 5.2, kDot = 4.0;
     const bool held = marker == Marker::held;
     canvas.shade(canvas.bounds(), [&](Point at) {
         const Point p{at.x - kMarkerPicture * 0.5, at.y - kMarkerPicture * 0.5};

@@ -8,35 +8,43 @@ namespace r7::art {
 
 namespace {
 
-constexpr double kLens = 11.0, kBezelRadius = 14.0, kReach = kLampPicture * 0.5;
+constexpr double kLens = 11.0, kBezelRadius = 13.6, kReach = kLampPicture * 0.5;
 
 Tint bezel(Point p, double r)
 {
     const double across = (r - (kLens + kBezelRadius) * 0.5) / ((kBezelRadius - kLens) * 0.5); // -1 to 1
-    const Vector normal = normalized({p.x / r * across, p.y / r * across, 0.75});
-    return lit({kBezel, 0.10, 14.0}, normal);
+    const Vector normal = normalized({p.x / r * across, p.y / r * across, 0.6});
+    return lit({kBezel, 0.10, 10.0}, normal);
+}
+
+// The lens without its engraving: hot in the middle, deep at the rim.
+Tint glass(const Tint& color, bool is_lit, double r)
+{
+    const double rim = smooth_step(0.45 * kLens, kLens, r);
+    if (!is_lit) return mix(scaled(color, 0.75), scaled(color, 0.20), rim);
+    const double heat = std::exp(-std::pow(r / (0.62 * kLens), 2.0));
+    return mix(mix(color, scaled(color, 0.50), rim), kBlueHot, 0.36 * heat);
 }
 
 Tint lens(const LampRow& lamp, Point p, double r)
 {
     const Tint color = srgb(lamp.color);
     const bool is_lit = lamp.sign != Sign::none;
-    const double rim = smooth_step(0.55 * kLens, kLens, r);
-    Tint tint = is_lit ? mix(mix(color, kBlueHot, 0.22), scaled(color, 0.45), rim)
-                       : mix(scaled(color, 0.8), scaled(color, 0.25), rim);
-    // The engraving: dark glass, its lower right wall catching the light.
-    const auto depth = [&](double x, double y) {
-        return smooth_step(-0.6, 0.5, sign_distance(lamp.sign, {x, y}));
-    };
+    Tint tint = glass(color, is_lit, r);
     if (is_lit) {
+        // The engraving: dark glass, its lower right wall catching the light.
+        const auto depth = [&](double x, double y) {
+            return smooth_step(-0.6, 0.5, sign_distance(lamp.sign, {x, y}));
+        };
         const Vector wall = normal_of(depth, p.x, p.y, 0.2);
-        const double lit_wall = std::max(0.0, dot(wall, kLight) - kLight.z * wall.z);
-        tint = mix(scaled(color, 0.06), tint, depth(p.x, p.y));
-        tint = mix(tint, kBlueHot, 0.5 * lit_wall);
+        const double lit_wall = std::max(0.0, wall.x * kLight.x + wall.y * kLight.y);
+        tint = mix(scaled(color, 0.05), tint, depth(p.x, p.y));
+        tint = mix(tint, kBlueHot, 0.35 * lit_wall);
     }
-    // The room, seen in the glass.
-    const double glint = 1.0 - smooth_step(0.0, 1.0, std::hypot((p.x + 4.6) / 4.2, (p.y - 6.6) / 2.6));
-    return mix(tint, kBlueHot, (is_lit ? 0.30 : 0.16) * glint);
+    // The room, seen in the glass, and the bezel's shadow on it.
+    tint = scaled(tint, 1.0 - 0.40 * smooth_step(kLens - 2.2, kLens, std::hypot(p.x - 0.5, p.y + 0.7)));
+    const double glint = 1.0 - smooth_step(0.2, 1.0, std::hypot((p.x + 3.6) / 4.4, (p.y - 7.0) / 2.2));
+    return mix(tint, kBlueHot, (is_lit ? 0.42 : 0.20) * glint);
 }
 
 } // namespace
@@ -51,8 +59,10 @@ void paint_lamp(Canvas& canvas, const LampRow& lamp)
         Tint tint = with_alpha(kShadow, 0.6 * shade);
         if (r < kBezelRadius) tint = bezel(p, r);
         if (lamp.sign == Sign::none) return tint;
-        const double glow = 1.0 - smooth_step(kLens - 1.5, kReach, r);
-        return over(with_alpha(srgb(lamp.color), 0.55 * glow), tint);
+        // The light that the bezel takes, and the glow on the plate around it.
+        const double on_bezel = 0.16 * (1.0 - smooth_step(kLens, kBezelRadius, r));
+        const double glow = 0.36 * (1.0 - smooth_step(kBezelRadius - 1.0, kReach, r));
+        return over(with_alpha(srgb(lamp.color), r < kBezelRadius ? on_bezel : glow), tint);
     });
 }
 

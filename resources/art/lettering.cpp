@@ -45,7 +45,9 @@ void print(Canvas& canvas, std::string_view text, Point at, Anchor anchor, const
     Path outlines;
     while (!text.empty()) {
         const char32_t letter = decode_utf8(text);
-        Font::label().append_outline(letter, pen, style.size, outlines);
+        // On whole pixels, where the upright stems of this size are sharp.
+        const Point origin{std::round(pen.x * canvas.scale()) / canvas.scale(), pen.y};
+        Font::label().append_outline(letter, origin, style.size, outlines);
         pen.x += Font::label().advance(letter, style.size) + style.spacing;
     }
     add_to(canvas.context(), outlines);

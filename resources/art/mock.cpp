@@ -4,6 +4,7 @@
 #include "resources/art/images.h"
 #include "resources/art/knobs.h"
 #include "resources/art/lamps.h"
+#include "resources/art/lettering.h"
 #include "resources/art/rows.h"
 #include "resources/art/screens.h"
 #include "resources/art/shapes.h"
@@ -100,9 +101,7 @@ void stroke_sine(Canvas& panel, const Rect& frame)
     cairo_set_source_rgba(context, 1.0, 1.0, 1.0, 0.5);
     cairo_set_line_width(context, 0.5);
     cairo_stroke(context);
-    cairo_set_source_rgb(context, 0.0, 0.0, 0.0);
-    cairo_rectangle(context, frame.x + frame.width * 0.5 - 5.0, frame.y, 10.0, 15.0);
-    cairo_fill(context);
+    print(panel, "A", {center_of(frame).x, frame.y + 4.0}, Anchor::center, {9.0, 0.0, srgb(0x5555FF)});
 }
 
 } // namespace

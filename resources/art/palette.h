@@ -15,17 +15,23 @@ inline const Tint kShadow = srgb(0x000000);
 inline const Tint kSky = srgb(0x9DB4CC);
 
 // Print on the plate.
-inline const Tint kTitle = srgb(0xDDE3EA);
-inline const Tint kLabel = srgb(0xB4BEC9);
-inline const Tint kTickMajor = srgb(0xC6CFD9);
-inline const Tint kTickMinor = srgb(0x76818D);
+inline const Tint kTitle = srgb(0xE4E1DA);
+inline const Tint kLabel = srgb(0xBFBDB7);
+inline const Tint kTickMajor = srgb(0xD6D3CC);
+inline const Tint kTickMinor = srgb(0x8C8B87);
+
+// The name.
+inline const Tint kNameTop = srgb(0xF4F2EE);
+inline const Tint kNameBottom = srgb(0xA8ABAE);
+inline const Tint kNumberTop = srgb(0xF0494E);
+inline const Tint kNumberBottom = srgb(0xA3141E);
 
 // Knobs.
 inline const Tint kAluminium = srgb(0xD3D7DB);
 inline const Tint kRed = srgb(0xB01C26);
 inline const Tint kRedGlare = srgb(0xFFB0A0);
-inline const Tint kRubber = srgb(0x33383E);
-inline const Tint kBlueDot = srgb(0x57A6F2);
+inline const Tint kRubber = srgb(0x1D2024);
+inline const Tint kBlueDot = srgb(0x66B2FA);
 inline const Tint kBlueGlow = srgb(0x4FB4FF);
 inline const Tint kBlueHot = srgb(0xF2FAFF);
 
@@ -36,7 +42,7 @@ inline const Tint kGridLine = srgb(0x5E86AE);
 inline const Tint kGridLetter = srgb(0x7F98B2);
 
 // Switches.
-inline const Tint kBezel = srgb(0x22262B);
+inline const Tint kBezel = srgb(0x1C1F23);
 inline const Tint kCharcoal = srgb(0x474D55);
 inline const Tint kSwitchRed = srgb(0xA61F27);
 inline const Tint kInk = srgb(0xE6EBF0);

@@ -3,12 +3,13 @@
 #include "resources/art/plate.h"
 
 #include "resources/art/glass.h"
-#include "resources/art/lamps.h"
+#include "resources/art/header.h"
 #include "resources/art/lettering.h"
 #include "resources/art/palette.h"
 #include "resources/art/rows.h"
 #include "resources/art/shapes.h"
 
+#include <algorithm>
 #include <numbers>
 
 namespace r7::art {
@@ -17,8 +18,6 @@ namespace {
 
 const TextStyle kTitleStyle{9.6, 2.0, kTitle};
 const TextStyle kLabelStyle{11.0, 0.0, kLabel};
-
-constexpr double kHeader = 44.0; // height of the header, from the top
 
 // Fine streaks along the plate, one a row of pixels, each slowly changing along its way.
 double grain(Point p, int scale)
@@ -38,7 +37,11 @@ void paint_plate(Canvas& canvas)
             const Tint base = mix(kPlateBottom, kPlateTop, p.y / size.height);
             const double from_light =
                 std::hypot((p.x - 0.25 * size.width) / size.width, (p.y - 0.95 * size.height) / size.height);
-            return scaled(base, 1.10 - 0.22 * from_light + 0.035 * grain(p, canvas.scale()));
+            const Tint plate = scaled(base, 1.10 - 0.22 * from_light + 0.035 * grain(p, canvas.scale()));
+            // The edges are broken: the upper and left ones catch the light.
+            if (p.y > size.height - 1.0 || p.x < 1.0) return mix(plate, kEdgeLight, 0.5);
+            if (p.y < 1.0 || p.x > size.width - 1.0) return mix(plate, kEdgeDark, 0.6);
+            return plate;
         },
         1);
 }
@@ -90,17 +93,41 @@ void paint_knobs_surroundings(Canvas& canvas, const Description& description)
 // The signs of a light's lamps, in the order of its states, each in its lamp's colour.
 void print_key(Canvas& canvas, const LightRow& light, Point middle)
 {
-    constexpr double kPitch = 12.0, kScale = 4.0 / kSignExtent;
-    int count = 0;
-    while (count < 10 && light.lamps[static_cast<std::size_t>(count)] >= 0) ++count;
+    constexpr double kPitch = 12.0, kHalf = 4.0;
+    const auto count = std::ranges::count_if(light.lamps, [](int lamp) { return lamp >= 0; });
     for (int i = 0; i < count; ++i) {
         const LampRow& lamp = kLamps[light.lamps[static_cast<std::size_t>(i)]];
-        const Point center{middle.x + (i - 0.5 * (count - 1)) * kPitch, middle.y};
-        const Tint tint = mix(srgb(lamp.color), kLabel, 0.25);
+        const Point center{std::floor(middle.x + (i - 0.5 * static_cast<double>(count - 1)) * kPitch),
+                           middle.y};
+        const bool is_lit = lamp.sign != Sign::none;
+        const Tint tint = is_lit ? mix(srgb(lamp.color), kLabel, 0.2) : kTickMinor;
         canvas.shade({center.x - 6.0, center.y - 6.0, 12.0, 12.0}, [&](Point at) {
-            const Point p{(at.x - center.x) / kScale, (at.y - center.y) / kScale};
-            return sign_distance(lamp.sign, p) < 0.0 ? tint : kClear;
+            const Point p{(at.x - center.x) * kSignExtent / kHalf, (at.y - center.y) * kSignExtent / kHalf};
+            const double d = is_lit ? sign_distance(lamp.sign, p) : std::abs(circle(p, 5.6)) - 0.9;
+            return d < 0.0 ? tint : kClear;
         });
+    }
+}
+
+// A groove down the plate, one point wide.
+void cut_groove(Canvas& canvas, double x, double bottom, double top)
+{
+    canvas.shade({x - 1.0, bottom, 2.0, top - bottom}, [&](Point p) {
+        return p.x < x ? with_alpha(kEdgeDark, 0.8) : with_alpha(kEdgeLight, 0.35);
+    });
+}
+
+void print_label(Canvas& canvas, const Rect& frame, const LabelRow& row)
+{
+    const Point center = center_of(frame);
+    const double middle = center.y - 4.0; // the baseline of capitals that stand on half the height
+    switch (row.side) {
+    case Side::below:
+        return print(canvas, row.text, {center.x, frame.y - row.distance}, Anchor::center, kLabelStyle);
+    case Side::left:
+        return print(canvas, row.text, {frame.x - row.distance, middle}, Anchor::right, kLabelStyle);
+    case Side::right:
+        return print(canvas, row.text, {frame.right() + row.distance, middle}, Anchor::left, kLabelStyle);
     }
 }
 
@@ -108,16 +135,8 @@ void paint_groups(Canvas& canvas)
 {
     for (const GroupRow& group : kGroups) {
         cut_recess(canvas, inset(group.room, -kGroupMargin), 8.0, 0.42);
-        print(canvas, group.title, {group.room.x + 8.0, group.room.top() - 16.0}, Anchor::left, kTitleStyle);
+        print(canvas, group.title, {group.room.x + 8.0, group.room.top() - 12.0}, Anchor::left, kTitleStyle);
     }
-}
-
-void paint_header(Canvas& canvas)
-{
-    const double top = canvas.size().height;
-    print(canvas, "R7", {20.0, top - 32.0}, Anchor::left, {28.0, 0.0, kTitle});
-    print(canvas, "QUILLMERE", {944.0, top - 27.0}, Anchor::right, {9.6, 3.0, kLabel});
-    static_cast<void>(kHeader);
 }
 
 } // namespace
@@ -147,19 +166,12 @@ void paint_background(Canvas& canvas, const Description& description)
     paint_plate(canvas);
     paint_groups(canvas);
     paint_knobs_surroundings(canvas, description);
-    for (const SwitchRow& row : kSwitches) {
-        const DescribedView* const view = description.find(row.outlet);
-        if (!view) continue;
-        const Point center = center_of(view->frame);
-        if (row.kind == SwitchKind::push_button)
-            print(canvas, row.label, {center.x, view->frame.y - 20.0}, Anchor::center, kLabelStyle);
-        else
-            print(canvas, row.label, {view->frame.x - 12.0, center.y - 4.0}, Anchor::right, kLabelStyle);
-    }
-    if (const DescribedView* const light = description.find("delay_on_indicator_light"))
-        print(canvas, "On", {center_of(light->frame).x, 236.0}, Anchor::center, kLabelStyle);
-    print_key(canvas, kLights[0], {488.0, 520.0});
-    print_key(canvas, kLights[2], {596.0, 520.0});
+    for (const LabelRow& row : kLabels)
+        if (const DescribedView* const view = description.find(row.outlet))
+            print_label(canvas, view->frame, row);
+    cut_groove(canvas, 412.0, 392.0, 528.0);
+    print_key(canvas, kLights[0], {488.0, 516.0});
+    print_key(canvas, kLights[2], {596.0, 516.0});
     for (const DisplayRow& row : kDisplays)
         if (const DescribedView* const view = description.find(row.outlet))
             paint_display(canvas, view->frame, row, kTitleStyle);

@@ -79,15 +79,40 @@ struct SwitchRow
 {
     std::string_view outlet;
     SwitchKind kind;
-    std::string_view label;
 };
 
 inline constexpr SwitchRow kSwitches[] = {
-    {"start_vowel_mode", SwitchKind::push_button, "Start vowel"},
-    {"end_vowel_mode", SwitchKind::push_button, "End vowel"},
-    {"envelope_mode", SwitchKind::push_button, "Envelope"},
-    {"wave_shaper_one_e", SwitchKind::red_switch, "Mode"},
-    {"wave_shaper_two_e", SwitchKind::red_switch, "Mode"},
+    {"start_vowel_mode", SwitchKind::push_button}, {"end_vowel_mode", SwitchKind::push_button},
+    {"envelope_mode", SwitchKind::push_button},    {"wave_shaper_one_e", SwitchKind::red_switch},
+    {"wave_shaper_two_e", SwitchKind::red_switch},
+};
+
+/// What the waveshapers' displays call the positions of their mode switches, in order.
+inline constexpr std::string_view kModeLetters = "-  A  B  C  D  E";
+
+enum class Side
+{
+    below,
+    left,
+    right
+};
+
+/// Print beside a control that is no knob, `distance` points from its frame to the baseline or the nearest
+/// letter.
+struct LabelRow
+{
+    std::string_view outlet;
+    std::string_view text;
+    Side side;
+    double distance;
+};
+
+inline constexpr LabelRow kLabels[] = {
+    {"start_vowel_mode", "Start vowel", Side::below, 20.0}, // on the line of the knobs' labels
+    {"end_vowel_mode", "End vowel", Side::below, 20.0},     {"envelope_mode", "Envelope", Side::below, 20.0},
+    {"delay_on_indicator_light", "On", Side::below, 36.0},  {"wave_shaper_one_e", "Mode", Side::left, 12.0},
+    {"wave_shaper_one_e", kModeLetters, Side::right, 12.0}, {"wave_shaper_two_e", "Mode", Side::left, 12.0},
+    {"wave_shaper_two_e", kModeLetters, Side::right, 12.0},
 };
 
 /// A lamp's picture: its colour when lit, and the sign that is engraved in its lens.
@@ -100,11 +125,11 @@ struct LampRow
 
 inline constexpr LampRow kLamps[] = {
     {"tiny-off-led", 0x30363D, Sign::none},          {"tiny-red-led", 0xFF3B30, Sign::ring},
-    {"tiny-green-led", 0x28D860, Sign::bar},         {"tiny-amber-led", 0xFFA21A, Sign::triangle},
-    {"tiny-blue-led", 0x2F86FF, Sign::twin_bars},    {"tiny-light-green-led", 0xB6FF7A, Sign::plus},
+    {"tiny-green-led", 0x28DE64, Sign::bar},         {"tiny-amber-led", 0xFF920C, Sign::triangle},
+    {"tiny-blue-led", 0x2F86FF, Sign::twin_bars},    {"tiny-light-green-led", 0xC4FF80, Sign::plus},
     {"tiny-dark-blue-led", 0x2C3CFF, Sign::lozenge}, {"tiny-pink-led", 0xFF8EC4, Sign::dash},
     {"tiny-light-blue-led", 0x8FE0FF, Sign::cross},  {"tiny-purple-led", 0xA64DFF, Sign::half_disc},
-    {"tiny-yellow-led", 0xFFE94A, Sign::dot},
+    {"tiny-yellow-led", 0xFFE94A, Sign::twin_posts},
 };
 
 /// A light of the panel, with its lamps (rows of kLamps) in the order of its states.

@@ -15,8 +15,8 @@ void paint_blue_bar(Canvas& canvas)
 
 void paint_lcd_grid(Canvas& canvas)
 {
-    constexpr double kCell = 4.0, kGap = 1.0;
-    const Tint cell = srgb(0x4FA6FF, 0.74), gap = srgb(0x2F7BD8, 0.46);
+    constexpr double kCell = 3.0, kGap = 1.0;
+    const Tint cell = srgb(0x4FA6FF, 0.72), gap = srgb(0x4397F0, 0.56);
     canvas.shade(canvas.bounds(), [&](Point p) {
         const double x = std::fmod(p.x, kCell), y = std::fmod(p.y, kCell);
         return x < kGap || y < kGap ? gap : cell;

@@ -6,7 +6,7 @@
 namespace r7::art {
 
 inline constexpr Size kBlueBarTile{8.0, 48.0};
-inline constexpr Size kLcdGridTile{8.0, 8.0};
+inline constexpr Size kLcdGridTile{12.0, 12.0};
 
 /// A band of blues that comes round again at its upper edge.
 void paint_blue_bar(Canvas& canvas);

@@ -7,7 +7,7 @@ namespace r7::art {
 
 namespace {
 
-constexpr double kStroke = 2.2; // half the width of a bar
+constexpr double kStroke = 2.5; // half the width of a bar
 
 double plus(Point p)
 {
@@ -17,8 +17,8 @@ double plus(Point p)
 double triangle(Point p)
 {
     constexpr double kSlope = 0.866;
-    const double sides = kSlope * std::abs(p.x) + 0.5 * p.y - 3.6;
-    return std::max(sides, -p.y - 5.4);
+    const double sides = kSlope * std::abs(p.x) + 0.5 * p.y - 4.7;
+    return std::max(sides, -p.y - 6.4);
 }
 
 } // namespace
@@ -29,25 +29,25 @@ double sign_distance(Sign sign, Point p)
     case Sign::none:
         break;
     case Sign::ring:
-        return std::abs(circle(p, kSignExtent - kStroke)) - kStroke * 0.9;
+        return std::abs(circle(p, kSignExtent - 2.2)) - 2.2;
     case Sign::bar:
-        return box(p, kStroke * 1.1, kSignExtent);
+        return box(p, 3.1, kSignExtent + 0.6);
     case Sign::triangle:
         return triangle(p);
     case Sign::twin_bars:
-        return box({p.x, std::abs(p.y) - 3.6}, kSignExtent, 1.8);
+        return box({p.x, std::abs(p.y) - 4.2}, kSignExtent - 0.8, 2.1);
     case Sign::plus:
         return plus(p);
     case Sign::lozenge:
-        return box(turned(p, 45.0), 4.9, 4.9);
+        return box(turned(p, 45.0), 5.6, 5.6);
     case Sign::dash:
-        return box(p, kSignExtent, kStroke * 1.1);
+        return box(p, kSignExtent, 3.0);
     case Sign::cross:
         return plus(turned(p, 45.0));
     case Sign::half_disc:
         return std::max(circle(p, kSignExtent), p.x);
-    case Sign::dot:
-        return circle(p, 4.0);
+    case Sign::twin_posts:
+        return box({std::abs(p.x) - 4.2, p.y}, 2.1, kSignExtent - 0.8);
     }
     return 1e3;
 }

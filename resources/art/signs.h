@@ -17,11 +17,11 @@ enum class Sign
     dash,
     cross,
     half_disc,
-    dot
+    twin_posts
 };
 
 /// Half the width and height that a sign takes, in points.
-inline constexpr double kSignExtent = 7.0;
+inline constexpr double kSignExtent = 8.0;
 
 /// The signed distance, in points, of a sign about the origin.
 double sign_distance(Sign sign, Point p);

@@ -11,7 +11,7 @@ namespace {
 constexpr double kFrame = 3.0;   // width of the frame
 constexpr double kCorner = 6.0;  // of the frame's outline
 constexpr double kValley = 0.20; // rise of a face from the valley, in points a point
-constexpr double kTilt = 0.36;   // rise added by the hand
+constexpr double kTilt = 0.24;   // rise added by the hand
 
 // Distance of a chevron that points to `direction` (-1 or 1), about the origin.
 double chevron(Point p, double direction)
@@ -44,9 +44,9 @@ struct Rocker
         const double bulge = 0.22 * (p.y - middle.y) / (cap.height * 0.5);
         const Vector normal = normalized({edge.x / edge.z - rise(p.x), edge.y / edge.z + bulge, 1.0});
         Tint tint = lit(material, normal);
-        // The end that is pressed lies in the shadow of the frame.
-        const double to_end = tilt < 0.0 ? p.x - cap.x : cap.right() - p.x;
-        if (tilt != 0.0) tint = scaled(tint, 0.45 + 0.55 * smooth_step(0.0, 12.0, to_end));
+        // The half that is pressed lies in the shadow of the frame, the other one stands in the light.
+        const double down = tilt * (p.x - middle.x) / (cap.width * 0.5); // 1 at the end that is pressed
+        if (tilt != 0.0) tint = scaled(tint, down > 0.0 ? 0.78 - 0.46 * down : 1.22);
         for (const double side : {-1.0, 1.0}) {
             const Point at{p.x - middle.x - side * cap.width * 0.26, p.y - middle.y};
             const double strength = tilt == side ? 1.0 : 0.8;
@@ -77,8 +77,8 @@ void paint_switch(Canvas& canvas, SwitchKind kind, Tilt tilt)
                   kind == SwitchKind::push_button ? Material{kCharcoal, 0.10, 14.0}
                                                   : Material{kSwitchRed, 0.22, 24.0}};
     // The end that is down is seen shorter, the end that is up stands out over the frame.
-    const double left = tilt == Tilt::left ? 2.0 : tilt == Tilt::right ? -1.5 : 0.0;
-    const double right = tilt == Tilt::right ? 2.0 : tilt == Tilt::left ? -1.5 : 0.0;
+    const double left = tilt == Tilt::left ? 2.5 : tilt == Tilt::right ? -1.5 : 0.0;
+    const double right = tilt == Tilt::right ? 2.5 : tilt == Tilt::left ? -1.5 : 0.0;
     rocker.cap.x += left;
     rocker.cap.width -= left + right;
     canvas.shade(canvas.bounds(), [&](Point p) { return over(rocker.face(p), frame(p, canvas.bounds())); });

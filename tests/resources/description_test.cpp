@@ -1,25 +1,14 @@
 // The panel's interface description: whole, within the panel, nothing over anything else.
-#include "resources/art/description.h"
+#include "tests/resources/described_panel.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <fstream>
-#include <iterator>
+#include <cmath>
 #include <map>
 
 namespace r7::art {
 namespace {
-
-Description panel()
-{
-    std::ifstream file(R7_RESOURCES "/QmR7View.xml");
-    const std::string xml{std::istreambuf_iterator<char>(file), {}};
-    std::string error;
-    auto description = parse_description(xml, error);
-    EXPECT_TRUE(description) << error;
-    return description.value_or(Description{});
-}
 
 bool is_editor(const DescribedView& view)
 {
@@ -46,7 +35,7 @@ TEST(Description, NamesEveryOutletOfThePanelWithItsClass)
     const std::vector<std::string> editors = {"pre_tone_control", "post_tone_control",
                                               "zoomed_wave_shaper_display"};
 
-    const Description description = panel();
+    const Description description = described_panel();
     EXPECT_EQ(description.panel_class, "QmR7View");
     std::size_t named = displays.size() + editors.size();
     for (const auto& [view_class, names] : outlets) {
@@ -71,7 +60,7 @@ TEST(Description, NamesEveryOutletOfThePanelWithItsClass)
 
 TEST(Description, FramesLieInThePanelOnTheGridAndOverNoOther)
 {
-    const Description description = panel();
+    const Description description = described_panel();
     const Rect bounds{0.0, 0.0, description.size.width, description.size.height};
     for (const DescribedView& view : description.views) {
         EXPECT_EQ(intersection(view.frame, bounds), view.frame) << view.outlet;
@@ -87,7 +76,7 @@ TEST(Description, FramesLieInThePanelOnTheGridAndOverNoOther)
 
 TEST(Description, AnEditorCoversNeitherTheDisplaysNorTheWaveshapersControls)
 {
-    const Description description = panel();
+    const Description description = described_panel();
     for (const DescribedView& editor : description.views) {
         if (!is_editor(editor)) continue;
         const Rect opened = moved_by(editor.frame, {0.0, description.size.height - editor.frame.height});

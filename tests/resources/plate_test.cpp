@@ -1,0 +1,86 @@
+// The printed plate: a readable label at every knob, and images that are what the program draws.
+#include "resources/art/images.h"
+#include "tests/resources/described_panel.h"
+#include "tests/resources/picture.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace r7::art {
+namespace {
+
+// The luminances of a rectangle of the background, in points.
+class Patch final
+{
+public:
+    Patch(const Picture& background, const Rect& area)
+    {
+        for (int y = static_cast<int>(area.y); y < static_cast<int>(area.top()); ++y)
+            for (int x = static_cast<int>(area.x); x < static_cast<int>(area.right()); ++x)
+                values_.push_back(luminance(background.at(x, background.height - 1 - y)));
+        std::ranges::sort(values_);
+    }
+
+    double median() const { return values_[values_.size() / 2]; }
+    double brightest() const { return values_.back(); }
+
+private:
+    std::vector<double> values_;
+};
+
+TEST(Plate, EveryKnobHasAReadableLabelThatTouchesNoNeighbour)
+{
+    const Picture background = image_named("r7-bg");
+    for (const DescribedView& view : described_panel().views) {
+        if (view.view_class != "QmKnobView") continue;
+        const Rect room{view.frame.x, view.frame.y - 15.0, view.frame.width, 13.0};
+        const Patch patch(background, room);
+        EXPECT_GE(contrast(patch.brightest(), patch.median()), 4.5) << view.outlet;
+        for (const double edge : {room.x, room.right() - 2.0})
+            EXPECT_LT(
+                contrast(Patch(background, {edge, room.y, 2.0, room.height}).brightest(), patch.median()),
+                1.3)
+                << view.outlet;
+    }
+}
+
+TEST(Plate, TheScaleOfAKnobHasItsGapAtTheBottom)
+{
+    const Picture background = image_named("r7-bg");
+    for (const DescribedView& view : described_panel().views) {
+        if (view.view_class != "QmKnobView") continue;
+        const double x = view.frame.x + view.frame.width * 0.5, half = view.frame.width * 0.5;
+        const auto strip = [&](double from_middle, double y) {
+            return Patch(background, {x + from_middle - 2.0, y, 4.0, half * 0.3}).brightest();
+        };
+        const double top = strip(0.0, view.frame.y + half * 1.7), bottom = strip(0.0, view.frame.y);
+        EXPECT_GE(contrast(top, bottom), 4.5) << view.outlet;
+        EXPECT_GE(contrast(strip(-0.62 * half, view.frame.y + 0.28 * half), bottom), 3.0) << view.outlet;
+        EXPECT_GE(contrast(strip(0.62 * half, view.frame.y + 0.28 * half), bottom), 3.0) << view.outlet;
+    }
+}
+
+// A changed frame or drawing whose images were not drawn anew is found here. Another machine's arithmetic may
+// round a component the other way.
+TEST(Plate, CommittedImagesAreUpToDate)
+{
+    const Description panel = described_panel();
+    for (const ImageRow& row : all_images(panel)) {
+        const std::string file = testing::TempDir() + "drawn.png";
+        ASSERT_TRUE(drawn(row, 1).write_png(file));
+        const Picture fresh = read_picture(file), committed = image_named(row.name);
+        ASSERT_EQ(fresh.pixels.size(), committed.pixels.size()) << row.name;
+        std::size_t different = 0;
+        for (std::size_t i = 0; i < fresh.pixels.size(); ++i)
+            for (std::size_t k = 0; k < 4; ++k) {
+                const double step = std::abs(fresh.pixels[i][k] - committed.pixels[i][k]);
+                if (step * fresh.pixels[i][3] > 2.5 / 255.0) ++different;
+            }
+        EXPECT_LE(different, fresh.pixels.size() / 1000) << row.name;
+    }
+}
+
+} // namespace
+} // namespace r7::art
