@@ -1,0 +1,101 @@
+// What editor and display share: the mapping, the values, and a curve that is the plain response.
+#include "tests/tonecontrol/tone_rig.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace r7 {
+
+namespace {
+
+template <typename V>
+void expect_plain_response(std::size_t points)
+{
+    ToneRig<V> rig;
+    rig.view->set_sample_rate(48000);
+    rig.view->set_maximum_frequency(22050);
+    Qm_ObjectiveToneControl model;
+    model.set_sample_rate(48000);
+    model.setBassFrequency_dbGain_slope(137, 6, 0.6f);
+    model.setLowMidFrequency_dbGain_Q(411, -9, 0.75f);
+    model.setMidFrequency_dbGain_Q(1234, 11, 0.3f);
+    model.setHighMidFrequency_dbGain_Q(3456, -4, 0.9f);
+    model.setTrebleFrequency_dbGain_slope(7890, 3, 0.5f);
+    EXPECT_EQ(rig.view->responseForFrequency(1000), model.responseForFrequency(1000));
+
+    const ToneMapping& mapping = rig.view->mapping();
+    const Rect graph = mapping.graph_frame();
+    const auto elements = rig.view->curve_path().elements();
+    ASSERT_EQ(elements.size(), 1 + points + 1);
+    EXPECT_EQ(elements.front().end(), graph.origin());
+    auto x = static_cast<float>(graph.x);
+    for (std::size_t i = 0; i < points; ++i, x += static_cast<float>(graph.width * 0.01)) {
+        const float db = model.responseForFrequency(mapping.frequency_for_location(x));
+        EXPECT_EQ(elements[i + 1].end(), (Point{x, mapping.location_for_gain(db)})) << i;
+    }
+    EXPECT_EQ(elements.back().end(), (Point{graph.right(), graph.y}));
+}
+
+} // namespace
+
+TEST(ToneMapping, LaysDecadesAndDecibelsOverTheGraph)
+{
+    ToneMapping mapping({30, 30, 600, 400});
+    EXPECT_NEAR(mapping.location_for_frequency(20050), 630, 1e-3);
+    mapping.set_minimum_frequency(100);
+    mapping.set_maximum_frequency(10000);
+    mapping.set_amplitude_maximum_gain_in_db(20);
+    EXPECT_NEAR(mapping.location_for_frequency(1000), 330, 1e-3);
+    EXPECT_NEAR(mapping.frequency_for_location(480), 3162.3, 0.1);
+    EXPECT_EQ(mapping.location_for_gain(-10), 130);
+    EXPECT_NEAR(mapping.gain_for_location(130), -10, 1e-5);
+}
+
+TEST(ToneViews, DrawThePlainResponseOfTheirFifteenValues)
+{
+    expect_plain_response<Display>(100);
+}
+
+TEST(ToneViews, LeadTheCurveToTheCornerUnlessItEndsBelowTheFloor)
+{
+    ToneRig<Display> rig;
+    rig.view->set_amplitude_maximum_gain_in_db(60); // the floor is at -40 dB all the same
+    rig.view->setFreqHigh(1000);
+    for (const auto& [db, elements] : {std::pair{-39.0f, 102u}, {-45.0f, 101u}, {kNaN, 101u}}) {
+        rig.view->setLevelHigh(db);
+        EXPECT_EQ(rig.view->curve_path().elements().size(), elements) << db;
+    }
+}
+
+TEST(ToneViews, RedrawForEveryChangeAndForNothingElse)
+{
+    ToneRig<Display> rig;
+    const auto redraws = [&](auto setter, float value) {
+        (*rig.view.*setter)(value);
+        return rig.redraw_requested();
+    };
+    for (const auto& [set, get, value] : kValues) {
+        EXPECT_FALSE(redraws(set, value));
+        EXPECT_TRUE(redraws(set, value / 2));
+        EXPECT_EQ((*rig.view.*get)(), value / 2);
+    }
+    EXPECT_TRUE(redraws(&Tone::setLevelMid, kNaN));
+    EXPECT_FALSE(redraws(&Tone::setLevelMid, kNaN));
+    for (const auto width : {&Tone::setSlopeLow, &Tone::setQMid, &Tone::setSlopeHigh})
+        for (const float refused : {0.001f, 0.0f, -1.0f, kNaN}) EXPECT_FALSE(redraws(width, refused));
+    EXPECT_TRUE(redraws(&Tone::setQMid, 0.0011f));
+}
+
+TEST(ToneDisplay, FillsItsCurveAndOpensTheEditorOnADoubleClickOnly)
+{
+    ToneRig<Display> rig;
+    EXPECT_EQ(rig.drawn().words(), "fill 0,0,1,0.4 from 0,0");
+    rig.view->setCurveColor_fill(nullptr, Color::device_rgba(1, 0.5, 0, 1));
+    EXPECT_EQ(rig.drawn().words(), "fill 1,0.5,0,1 from 0,0") << "a curve colour is there from the start";
+
+    for (const int clicks : {1, 2, 3, 4}) rig.view->mouseDown({.click_count = clicks});
+    EXPECT_EQ(rig.toggles->calls, 1);
+}
+
+} // namespace r7
