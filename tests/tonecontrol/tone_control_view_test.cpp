@@ -54,6 +54,7 @@ TEST(ToneMapping, LaysDecadesAndDecibelsOverTheGraph)
 
 TEST(ToneViews, DrawThePlainResponseOfTheirFifteenValues)
 {
+    expect_plain_response<Editor>(101);
     expect_plain_response<Display>(100);
 }
 

@@ -4,6 +4,7 @@
 #include "platform/window.h"
 #include "tests/support/recording_graphics.h"
 #include "tonecontrol/parametric_eq_response_view.h"
+#include "tonecontrol/parametric_eq_view.h"
 
 #include <limits>
 #include <memory>
@@ -41,6 +42,7 @@ struct Counter final : ActionTarget {
     static void count(ActionTarget& target, View&) { ++static_cast<Counter&>(target).calls; }
 };
 
+/// The editor's graph is 600 points wide and 400 high, 30 points from the left and lower edges.
 template <typename V>
 struct ToneRig {
     std::shared_ptr<Window> window = std::make_shared<Window>(Rect{0, 0, 660, 430});
@@ -71,6 +73,7 @@ struct ToneRig {
     }
 };
 
+using Editor = Qm_ParametricEQView;
 using Display = QM_R7_ParametericEQ_Response_View;
 
 } // namespace r7
