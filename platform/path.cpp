@@ -22,7 +22,8 @@ double reduced_sweep(double sweep)
     return rest < 0.0 ? rest + 360.0 : rest;
 }
 
-// The largest number of lines that one curve is flattened into: enough for a curve as wide as several screens.
+// The largest number of lines that one curve is flattened into: enough for a curve as wide as several
+// screens.
 constexpr int kMostLines = 512;
 
 } // namespace
@@ -33,27 +34,35 @@ void Path::remove_all_points()
     current_ = start_ = {};
 }
 
+// In place: a line is built by the hundred, and a temporary element costs more than the rest of it.
+Path::Element& Path::append(Verb verb)
+{
+    Element& element = elements_.emplace_back();
+    element.verb = verb;
+    return element;
+}
+
 void Path::move_to(Point point)
 {
-    elements_.push_back({Verb::move, {point}});
+    append(Verb::move).points[0] = point;
     current_ = start_ = point;
 }
 
 void Path::line_to(Point point)
 {
-    elements_.push_back({Verb::line, {point}});
+    append(Verb::line).points[0] = point;
     current_ = point;
 }
 
 void Path::curve_to(Point control_1, Point control_2, Point end)
 {
-    elements_.push_back({Verb::curve, {control_1, control_2, end}});
+    append(Verb::curve).points = {control_1, control_2, end};
     current_ = end;
 }
 
 void Path::close()
 {
-    elements_.push_back({Verb::close, {}});
+    append(Verb::close);
     current_ = start_;
 }
 

@@ -64,6 +64,8 @@ public:
     void flatten_into(Path& flattened, double tolerance = 0.1) const;
 
 private:
+    Element& append(Verb verb);
+
     std::vector<Element> elements_;
     Point current_{};
     Point start_{};
