@@ -1,6 +1,7 @@
 // The picture of a window, painted by Cairo: what is presented on a screen or written to a file.
 #pragma once
 
+#include "platform/cairo/pixels.h"
 #include "platform/geometry.h"
 
 #include <cstddef>
@@ -13,14 +14,6 @@
 namespace r7 {
 
 class Window;
-
-/// Whole device pixels, origin at the picture's top left corner, y downward.
-struct PixelRect {
-    int x = 0;
-    int y = 0;
-    int width = 0;
-    int height = 0;
-};
 
 /// An image surface of a window's size at a scale.
 ///
