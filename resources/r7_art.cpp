@@ -13,7 +13,7 @@ namespace {
 using namespace r7::art;
 
 constexpr char kUsage[] =
-    "usage: r7_art RESOURCES                     draw RESOURCES/images from RESOURCES/QmR7View.xml\n"
+    "usage: r7_art RESOURCES                      draw RESOURCES/images from RESOURCES/QmR7View.xml\n"
     "       r7_art RESOURCES --mock FILE [SCALE]  a picture of the whole panel\n";
 
 bool write(const Canvas& canvas, const std::filesystem::path& path)

@@ -1,6 +1,7 @@
 // A picture in the making.
 #include "resources/art/canvas.h"
 
+#include <cstddef>
 #include <cstdint>
 
 namespace r7::art {
@@ -62,7 +63,7 @@ void Canvas::shade(const Rect& area, const Shader& shader, int grain)
     const std::unique_ptr<cairo_surface_t, Free> tile(
         cairo_image_surface_create(CAIRO_FORMAT_ARGB32, right - left, top - bottom));
     unsigned char* const data = cairo_image_surface_get_data(tile.get());
-    const int stride = cairo_image_surface_get_stride(tile.get());
+    const std::ptrdiff_t stride = cairo_image_surface_get_stride(tile.get());
     for (int y = bottom; y < top; ++y) {
         auto* const row = reinterpret_cast<std::uint32_t*>(data + (top - 1 - y) * stride);
         for (int x = left; x < right; ++x) {
@@ -88,6 +89,16 @@ void Canvas::place(const Canvas& other, Point origin)
     cairo_identity_matrix(context_.get());
     cairo_set_source_surface(context_.get(), other.surface_.get(), origin.x * scale_,
                              (size_.height - origin.y - other.size_.height) * scale_);
+    cairo_paint(context_.get());
+    cairo_restore(context_.get());
+}
+
+void Canvas::pave(const Canvas& tile)
+{
+    cairo_save(context_.get());
+    cairo_identity_matrix(context_.get());
+    cairo_set_source_surface(context_.get(), tile.surface_.get(), 0.0, size_.height * scale_);
+    cairo_pattern_set_extend(cairo_get_source(context_.get()), CAIRO_EXTEND_REPEAT);
     cairo_paint(context_.get());
     cairo_restore(context_.get());
 }

@@ -37,6 +37,9 @@ public:
     void shade(const Rect& area, const Shader& shader, int grain = 5);
     /// Paints another canvas of the same scale with its lower left corner at `origin`.
     void place(const Canvas& other, Point origin);
+    /// Paints the whole canvas, where it is not clipped away, with a tile repeated from the lower left
+    /// corner.
+    void pave(const Canvas& tile);
     /// The source of the context becomes `tint`.
     void set_source(const Tint& tint);
 

@@ -2,7 +2,7 @@
 #include "resources/art/glass.h"
 
 #include "resources/art/palette.h"
-#include "resources/art/plate.h"
+#include "resources/art/recess.h"
 #include "resources/art/shapes.h"
 
 #include <numbers>
@@ -71,8 +71,8 @@ void print_tone_grid(Canvas& canvas, const Rect& frame)
         return frame.y + frame.height * (db + kGainRange) / (2.0 * kGainRange);
     };
     Grid grid(canvas, frame);
-    for (double decade = 10.0; decade < kHighest; decade *= 10.0)
-        for (int digit = 1; digit < 10 && digit * decade < kHighest; ++digit)
+    for (const double decade : {10.0, 100.0, 1000.0, 10000.0})
+        for (int digit = 1; digit < 10; ++digit)
             if (digit * decade > kLowest) grid.vertical(x_of(digit * decade), digit == 1 ? 0.34 : 0.11);
     for (const double db : {-20.0, 0.0, 20.0}) grid.horizontal(y_of(db), db == 0.0 ? 0.42 : 0.22);
 

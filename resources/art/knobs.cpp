@@ -49,7 +49,8 @@ Vector turned_normal(const Polar& p, double fall)
 
 Tint red_knob(Point point)
 {
-    constexpr double kTop = 20.6, kGroove = 21.6, kChamfer = 24.4, kRadius = 26.0;
+    constexpr double kTop = 20.6, kGroove = 21.6, kChamfer = 24.4;
+    constexpr double kRadius = shape_of(KnobKind::red).radius;
     const Polar p = polar(point);
     const double tool_marks = 1.0 + 0.045 * noise(static_cast<int>(p.radius * 5.0));
     const double sheen = lathe_sheen(p.angle);
@@ -64,19 +65,19 @@ Tint red_knob(Point point)
     const double lip = smooth_step(kTop - 1.3, kTop - 0.2, p.radius);
     const double fall = -0.10 * p.radius / kTop + 0.9 * lip;
     const Tint top = lit({kRed, 0.02, 10.0}, turned_normal(p, fall));
-    const Tint lit_top = scaled(top, (0.58 + 0.75 * sheen) * tool_marks);
-    return mix(lit_top, kRedGlare, 0.16 * sheen);
+    const Tint lit_top = scaled(top, (0.55 + 0.72 * sheen) * tool_marks);
+    return mix(lit_top, kRedGlare, 0.10 * sheen);
 }
 
 struct Rubber
 {
-    double radius, plateau;
+    double radius, plateau; // of the whole, and of the smooth top
     int ribs;
     double fall, depth; // of the side, and of the grooves between the ribs, in points
 };
 
-constexpr Rubber kBigRubber{37.0, 29.0, 20, 6.5, 2.6};
-constexpr Rubber kSmallRubber{22.0, 16.8, 14, 4.4, 1.9};
+constexpr Rubber kBigRubber{shape_of(KnobKind::big_rubber).radius, 29.0, 20, 6.5, 2.6};
+constexpr Rubber kSmallRubber{shape_of(KnobKind::small_rubber).radius, 16.8, 14, 4.4, 1.9};
 
 // 1 on a rib's crest, 0 in the groove beside it.
 double crest(const Rubber& rubber, double angle)
@@ -84,15 +85,18 @@ double crest(const Rubber& rubber, double angle)
     return std::pow(0.5 + 0.5 * std::cos(angle * rubber.ribs), 0.4);
 }
 
+// A flat dome, a small step down at its edge, and the ribbed side.
 double height(const Rubber& rubber, double x, double y)
 {
+    constexpr double kStep = 0.5;
+    const double dome = 0.10 * rubber.plateau;
     const Polar p = polar({x, y});
     if (p.radius < rubber.plateau) {
         const double t = p.radius / rubber.plateau;
-        return -0.10 * rubber.plateau * t * t - 0.5 * smooth_step(0.93, 1.0, t);
+        return -dome * t * t - kStep * smooth_step(0.93, 1.0, t);
     }
     const double t = (p.radius - rubber.plateau) / (rubber.radius - rubber.plateau);
-    return -0.10 * rubber.plateau - 0.5 - rubber.fall * t * t -
+    return -dome - kStep - rubber.fall * t * t -
            rubber.depth * (1.0 - crest(rubber, p.angle)) * smooth_step(0.05, 0.5, t);
 }
 
@@ -138,12 +142,12 @@ void paint_knob(Canvas& canvas, KnobKind kind)
 
 void paint_marker(Canvas& canvas, Marker marker)
 {
-    constexpr double kSocket = 5.2, kDot = 4.0;
+    constexpr double kSocket = 5.8, kDot = 4.0;
     const bool held = marker == Marker::held;
     canvas.shade(canvas.bounds(), [&](Point at) {
         const Point p{at.x - kMarkerPicture * 0.5, at.y - kMarkerPicture * 0.5};
         const double r = std::hypot(p.x, p.y);
-        Tint tint = with_alpha(kShadow, 0.7 * (1.0 - smooth_step(kSocket - 0.9, kSocket, r)));
+        Tint tint = with_alpha(kShadow, 0.85 * (1.0 - smooth_step(kSocket - 1.4, kSocket, r)));
         if (held) {
             const double glow = 1.0 - smooth_step(kDot - 1.0, kMarkerPicture * 0.5, r);
             tint = over(with_alpha(kBlueGlow, 0.85 * glow * glow), tint);

@@ -14,7 +14,7 @@ Tint bezel(Point p, double r)
 {
     const double across = (r - (kLens + kBezelRadius) * 0.5) / ((kBezelRadius - kLens) * 0.5); // -1 to 1
     const Vector normal = normalized({p.x / r * across, p.y / r * across, 0.6});
-    return lit({kBezel, 0.10, 10.0}, normal);
+    return lit({kBezel, 0.04, 10.0}, normal);
 }
 
 // The lens without its engraving: hot in the middle, deep at the rim.
@@ -59,10 +59,9 @@ void paint_lamp(Canvas& canvas, const LampRow& lamp)
         Tint tint = with_alpha(kShadow, 0.6 * shade);
         if (r < kBezelRadius) tint = bezel(p, r);
         if (lamp.sign == Sign::none) return tint;
-        // The light that the bezel takes, and the glow on the plate around it.
-        const double on_bezel = 0.16 * (1.0 - smooth_step(kLens, kBezelRadius, r));
-        const double glow = 0.36 * (1.0 - smooth_step(kBezelRadius - 1.0, kReach, r));
-        return over(with_alpha(srgb(lamp.color), r < kBezelRadius ? on_bezel : glow), tint);
+        // The glow, on the bezel and on the plate around it.
+        const double fade = 1.0 - smooth_step(kLens - 1.0, kReach, r);
+        return over(with_alpha(srgb(lamp.color), (r < kBezelRadius ? 0.13 : 0.42) * fade), tint);
     });
 }
 

@@ -29,26 +29,31 @@ void add_to(cairo_t* context, const Path& path)
     }
 }
 
+// Whole points, so that every letter stands on whole pixels, where its stems are sharp, and equal letters are
+// equally far apart.
+double advance(char32_t letter, const TextStyle& style)
+{
+    return std::round(Font::label().advance(letter, style.size) + style.spacing);
+}
+
 } // namespace
 
 double width_of(std::string_view text, const TextStyle& style)
 {
     double width = -style.spacing;
-    while (!text.empty()) width += Font::label().advance(decode_utf8(text), style.size) + style.spacing;
+    while (!text.empty()) width += advance(decode_utf8(text), style);
     return width;
 }
 
 void print(Canvas& canvas, std::string_view text, Point at, Anchor anchor, const TextStyle& style)
 {
     const double back = anchor == Anchor::left ? 0.0 : anchor == Anchor::center ? 0.5 : 1.0;
-    Point pen{at.x - back * width_of(text, style), at.y};
+    Point pen{std::round(at.x - back * width_of(text, style)), at.y};
     Path outlines;
     while (!text.empty()) {
         const char32_t letter = decode_utf8(text);
-        // On whole pixels, where the upright stems of this size are sharp.
-        const Point origin{std::round(pen.x * canvas.scale()) / canvas.scale(), pen.y};
-        Font::label().append_outline(letter, origin, style.size, outlines);
-        pen.x += Font::label().advance(letter, style.size) + style.spacing;
+        Font::label().append_outline(letter, pen, style.size, outlines);
+        pen.x += advance(letter, style);
     }
     add_to(canvas.context(), outlines);
     canvas.set_source(style.tint);

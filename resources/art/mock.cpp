@@ -64,11 +64,6 @@ void place_switches_and_lights(Canvas& panel, const Description& description)
 // A response with a boost and a cut, filled down to the lower edge with the pattern of the displays.
 void fill_tone_curve(Canvas& panel, const Rect& frame)
 {
-    const Canvas tile = drawn({"", kLcdGridTile, Canvas::Ground::clear, paint_lcd_grid}, panel.scale());
-    Canvas pattern(panel.size(), panel.scale());
-    for (double y = 0.0; y < panel.size().height; y += kLcdGridTile.height)
-        for (double x = 0.0; x < panel.size().width; x += kLcdGridTile.width) pattern.place(tile, {x, y});
-
     cairo_t* const context = panel.context();
     cairo_save(context);
     cairo_move_to(context, frame.x, frame.y);
@@ -81,7 +76,9 @@ void fill_tone_curve(Canvas& panel, const Rect& frame)
     cairo_line_to(context, frame.right(), frame.y);
     cairo_close_path(context);
     cairo_clip(context);
-    panel.place(pattern, {0.0, 0.0});
+    Canvas tile(kLcdGridTile, panel.scale());
+    paint_lcd_grid(tile);
+    panel.pave(tile);
     cairo_restore(context);
 }
 

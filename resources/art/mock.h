@@ -6,7 +6,7 @@
 
 namespace r7::art {
 
-/// The background with every control at its start value, and curves on the displays.
+/// The background with every control at its start value, one marker shown held, and curves on the displays.
 Canvas mock_panel(const Description& description, int scale);
 
 } // namespace r7::art

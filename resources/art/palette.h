@@ -28,10 +28,10 @@ inline const Tint kNumberBottom = srgb(0xA3141E);
 
 // Knobs.
 inline const Tint kAluminium = srgb(0xD3D7DB);
-inline const Tint kRed = srgb(0xB01C26);
+inline const Tint kRed = srgb(0xA2161F);
 inline const Tint kRedGlare = srgb(0xFFB0A0);
 inline const Tint kRubber = srgb(0x1D2024);
-inline const Tint kBlueDot = srgb(0x66B2FA);
+inline const Tint kBlueDot = srgb(0x7CC2FF);
 inline const Tint kBlueGlow = srgb(0x4FB4FF);
 inline const Tint kBlueHot = srgb(0xF2FAFF);
 

@@ -6,6 +6,7 @@
 #include "resources/art/header.h"
 #include "resources/art/lettering.h"
 #include "resources/art/palette.h"
+#include "resources/art/recess.h"
 #include "resources/art/rows.h"
 #include "resources/art/shapes.h"
 
@@ -90,10 +91,9 @@ void paint_knobs_surroundings(Canvas& canvas, const Description& description)
     }
 }
 
-// The signs of a light's lamps, in the order of its states, each in its lamp's colour.
 void print_key(Canvas& canvas, const LightRow& light, Point middle)
 {
-    constexpr double kPitch = 12.0, kHalf = 4.0;
+    constexpr double kPitch = 12.0, kHalf = 4.0; // of the signs, in points
     const auto count = std::ranges::count_if(light.lamps, [](int lamp) { return lamp >= 0; });
     for (int i = 0; i < count; ++i) {
         const LampRow& lamp = kLamps[light.lamps[static_cast<std::size_t>(i)]];
@@ -107,14 +107,6 @@ void print_key(Canvas& canvas, const LightRow& light, Point middle)
             return d < 0.0 ? tint : kClear;
         });
     }
-}
-
-// A groove down the plate, one point wide.
-void cut_groove(Canvas& canvas, double x, double bottom, double top)
-{
-    canvas.shade({x - 1.0, bottom, 2.0, top - bottom}, [&](Point p) {
-        return p.x < x ? with_alpha(kEdgeDark, 0.8) : with_alpha(kEdgeLight, 0.35);
-    });
 }
 
 void print_label(Canvas& canvas, const Rect& frame, const LabelRow& row)
@@ -131,47 +123,43 @@ void print_label(Canvas& canvas, const Rect& frame, const LabelRow& row)
     }
 }
 
+void print_keys(Canvas& canvas, const Description& description)
+{
+    for (const KeyRow& row : kKeys) {
+        const DescribedView* const first = description.find(row.first);
+        const DescribedView* const last = description.find(row.last);
+        if (!first || !last) continue;
+        const Point middle = center_of(enclosing(first->frame, last->frame));
+        print_key(canvas, *std::ranges::find(kLights, row.first, &LightRow::outlet),
+                  {middle.x, first->frame.top() + row.distance});
+    }
+}
+
+void print_labels(Canvas& canvas, const Description& description)
+{
+    for (const LabelRow& row : kLabels)
+        if (const DescribedView* const view = description.find(row.outlet))
+            print_label(canvas, view->frame, row);
+}
+
 void paint_groups(Canvas& canvas)
 {
     for (const GroupRow& group : kGroups) {
         cut_recess(canvas, inset(group.room, -kGroupMargin), 8.0, 0.42);
         print(canvas, group.title, {group.room.x + 8.0, group.room.top() - 12.0}, Anchor::left, kTitleStyle);
     }
+    for (const Rect& groove : kGrooves) cut_groove(canvas, groove);
 }
 
 } // namespace
-
-void cut_recess(Canvas& canvas, const Rect& room, double corner, double depth)
-{
-    canvas.shade(
-        inset(room, -2.0),
-        [&](Point p) {
-            const auto distance = [&](double x, double y) { return rounded_box({x, y}, room, corner); };
-            const double d = distance(p.x, p.y);
-            if (d >= 1.0) return kClear;
-            if (d >= 0.0) {
-                const Vector inward = normal_of(distance, p.x, p.y);
-                const double facing = (inward.x * kLight.x + inward.y * kLight.y) / 0.55;
-                return facing < 0.0 ? with_alpha(kEdgeDark, 0.85 * -facing)
-                                    : with_alpha(kEdgeLight, 0.60 * facing);
-            }
-            const double shadow = smooth_step(-5.0, 2.5, distance(p.x - 1.6, p.y + 2.2));
-            return over(with_alpha(kShadow, 0.55 * shadow), with_alpha(kEdgeDark, depth));
-        },
-        2);
-}
 
 void paint_background(Canvas& canvas, const Description& description)
 {
     paint_plate(canvas);
     paint_groups(canvas);
     paint_knobs_surroundings(canvas, description);
-    for (const LabelRow& row : kLabels)
-        if (const DescribedView* const view = description.find(row.outlet))
-            print_label(canvas, view->frame, row);
-    cut_groove(canvas, 412.0, 392.0, 528.0);
-    print_key(canvas, kLights[0], {488.0, 516.0});
-    print_key(canvas, kLights[2], {596.0, 516.0});
+    print_labels(canvas, description);
+    print_keys(canvas, description);
     for (const DisplayRow& row : kDisplays)
         if (const DescribedView* const view = description.find(row.outlet))
             paint_display(canvas, view->frame, row, kTitleStyle);

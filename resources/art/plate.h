@@ -6,11 +6,7 @@
 
 namespace r7::art {
 
-/// Fills a canvas of the panel's size. A control of the rows that the description lacks is left out.
+/// Fills a canvas of the panel's size. What is printed for a control that the description lacks is left out.
 void paint_background(Canvas& canvas, const Description& description);
-
-/// A round-cornered recess: its floor darkened by `depth` (0 to 1), a shadow from its upper left edge,
-/// a dark upper and a light lower rim.
-void cut_recess(Canvas& canvas, const Rect& room, double corner, double depth);
 
 } // namespace r7::art

@@ -147,6 +147,20 @@ inline constexpr LightRow kLights[] = {
     {"delay_on_indicator_light", {1, 2, -1, -1, -1, -1, -1, -1, -1, -1}, 1},
 };
 
+/// The signs of a light's lamps, in the order of its states and each in its lamp's colour, printed `distance`
+/// points above the lights `first` to `last`, which share them.
+struct KeyRow
+{
+    std::string_view first;
+    std::string_view last;
+    double distance;
+};
+
+inline constexpr KeyRow kKeys[] = {
+    {"start_vowel_light", "end_vowel_light", 20.0},
+    {"wah_mode_light", "wah_mode_light", 20.0},
+};
+
 /// A group of controls in its recess, on the grid; the recess reaches kGroupMargin farther on every side.
 struct GroupRow
 {
@@ -161,6 +175,9 @@ inline constexpr GroupRow kGroups[] = {
     {"OUTPUT", {512.0, 208.0, 128.0, 152.0}},        {"WAVESHAPER ONE", {16.0, 16.0, 304.0, 176.0}},
     {"WAVESHAPER TWO", {336.0, 16.0, 304.0, 176.0}},
 };
+
+/// Grooves: between two parts of the vowel filter, and along the header.
+inline constexpr Rect kGrooves[] = {{411.0, 392.0, 2.0, 136.0}, {76.0, 577.0, 772.0, 2.0}};
 
 enum class DisplayKind
 {

@@ -4,6 +4,7 @@
 #include "platform/geometry.h"
 
 #include <cmath>
+#include <numbers>
 
 namespace r7::art {
 
@@ -27,6 +28,7 @@ inline double rounded_box(Point p, const Rect& rect, double radius)
            radius;
 }
 
+/// The rectangle made smaller by as much on every side.
 inline Rect inset(const Rect& rect, double by)
 {
     return {rect.x + by, rect.y + by, rect.width - 2.0 * by, rect.height - 2.0 * by};
@@ -37,9 +39,10 @@ inline Point center_of(const Rect& rect)
     return {rect.x + rect.width * 0.5, rect.y + rect.height * 0.5};
 }
 
+/// Where p lies in a frame that is turned counterclockwise.
 inline Point turned(Point p, double degrees)
 {
-    const double a = degrees * 3.14159265358979323846 / 180.0, c = std::cos(a), s = std::sin(a);
+    const double a = degrees * std::numbers::pi / 180.0, c = std::cos(a), s = std::sin(a);
     return {p.x * c + p.y * s, p.y * c - p.x * s};
 }
 

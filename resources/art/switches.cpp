@@ -8,9 +8,10 @@ namespace r7::art {
 
 namespace {
 
-constexpr double kFrame = 3.0;   // width of the frame
-constexpr double kCorner = 6.0;  // of the frame's outline
-constexpr double kValley = 0.20; // rise of a face from the valley, in points a point
+constexpr double kFrame = 3.0;  // width of the frame
+constexpr double kCorner = 6.0; // of the frame's outline
+constexpr double kCapCorner = 3.5;
+constexpr double kValley = 0.20; // rise of a face from the valley outward, in points a point
 constexpr double kTilt = 0.24;   // rise added by the hand
 
 // Distance of a chevron that points to `direction` (-1 or 1), about the origin.
@@ -24,7 +25,7 @@ double chevron(Point p, double direction)
 struct Rocker
 {
     Rect cap;
-    double tilt;
+    double tilt; // -1 with the left half down, 1 with the right one
     Material material;
 
     double rise(double x) const
@@ -35,10 +36,10 @@ struct Rocker
 
     Tint face(Point p) const
     {
-        const double d = rounded_box(p, cap, 3.5);
+        if (rounded_box(p, cap, kCapCorner) >= 0.0) return kClear;
         const Point middle = center_of(cap);
         const auto height = [&](double x, double y) {
-            return -1.6 * smooth_step(-2.2, 0.0, rounded_box({x, y}, cap, 3.5));
+            return -1.6 * smooth_step(-2.2, 0.0, rounded_box({x, y}, cap, kCapCorner));
         };
         const Vector edge = normal_of(height, p.x, p.y, 0.1);
         const double bulge = 0.22 * (p.y - middle.y) / (cap.height * 0.5);
@@ -47,12 +48,17 @@ struct Rocker
         // The half that is pressed lies in the shadow of the frame, the other one stands in the light.
         const double down = tilt * (p.x - middle.x) / (cap.width * 0.5); // 1 at the end that is pressed
         if (tilt != 0.0) tint = scaled(tint, down > 0.0 ? 0.78 - 0.46 * down : 1.22);
-        for (const double side : {-1.0, 1.0}) {
-            const Point at{p.x - middle.x - side * cap.width * 0.26, p.y - middle.y};
-            const double strength = tilt == side ? 1.0 : 0.8;
-            tint = mix(tint, kInk, strength * (1.0 - smooth_step(-0.3, 0.3, chevron(at, side))));
-        }
-        return d < 0.0 ? tint : kClear;
+        return mix(tint, kInk, 0.85 * ink(p));
+    }
+
+    // The chevrons that are printed on the halves: 1 in a line, 0 beside it.
+    double ink(Point p) const
+    {
+        const Point middle = center_of(cap);
+        double d = 1e3;
+        for (const double side : {-1.0, 1.0})
+            d = std::min(d, chevron({p.x - middle.x - side * cap.width * 0.26, p.y - middle.y}, side));
+        return 1.0 - smooth_step(-0.3, 0.3, d);
     }
 };
 

@@ -86,7 +86,7 @@ TEST(Images, FitTheFramesOfTheirViews)
     }
     for (const DescribedView& view : panel.views) {
         if (view.view_class != "QmR7PushModeKnobView") continue;
-        const std::string family = kSwitchNames[view.outlet.starts_with("wave_shaper_")];
+        const std::string& family = kSwitchNames[view.outlet.starts_with("wave_shaper_")];
         for (const std::string& tilt : kTiltNames) {
             const Picture picture = image_named(family + tilt);
             EXPECT_EQ(picture.width, view.frame.width) << view.outlet << tilt;
@@ -165,6 +165,7 @@ TEST(Images, PatternsTileWithoutASeam)
                 const Picture tile = image_named(name + density);
                 const int count = rows ? tile.height : tile.width;
                 std::vector<double> steps;
+                steps.reserve(static_cast<std::size_t>(count));
                 for (int i = 0; i < count; ++i) steps.push_back(step_between(tile, i, rows));
                 const double greatest = *std::max_element(steps.begin(), steps.end() - 1);
                 EXPECT_LE(steps.back(), greatest + 1.0 / 255.0) << name << density << " rows " << rows;

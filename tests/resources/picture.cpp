@@ -1,10 +1,9 @@
-// A PNG file's pixels, and how they look to eyes of several kinds.
+// An image's pixels, and how they look to eyes of several kinds.
 #include "tests/resources/picture.h"
-
-#include <cairo.h>
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 
 namespace r7::art {
 
@@ -33,31 +32,34 @@ constexpr Matrix kGrey{{{0.2126, 0.7152, 0.0722}, {0.2126, 0.7152, 0.0722}, {0.2
 
 } // namespace
 
-Picture read_picture(const std::filesystem::path& path)
+Picture picture_of(cairo_surface_t* surface)
 {
     Picture picture;
-    cairo_surface_t* const surface = cairo_image_surface_create_from_png(path.c_str());
-    if (cairo_surface_status(surface) == CAIRO_STATUS_SUCCESS) {
-        picture.width = cairo_image_surface_get_width(surface);
-        picture.height = cairo_image_surface_get_height(surface);
-        const bool has_alpha = cairo_image_surface_get_format(surface) == CAIRO_FORMAT_ARGB32;
-        for (int row = 0; row < picture.height; ++row) {
-            const auto* const line = reinterpret_cast<const std::uint32_t*>(
-                cairo_image_surface_get_data(surface) + row * cairo_image_surface_get_stride(surface));
-            for (int column = 0; column < picture.width; ++column) {
-                const auto byte = [&](int shift) { return (line[column] >> shift & 0xFF) / 255.0; };
-                const double alpha = has_alpha ? byte(24) : 1.0, by = alpha > 0.0 ? 1.0 / alpha : 0.0;
-                picture.pixels.push_back({byte(16) * by, byte(8) * by, byte(0) * by, alpha});
-            }
+    if (cairo_surface_status(surface) != CAIRO_STATUS_SUCCESS) return picture;
+    cairo_surface_flush(surface);
+    picture.width = cairo_image_surface_get_width(surface);
+    picture.height = cairo_image_surface_get_height(surface);
+    const std::ptrdiff_t stride = cairo_image_surface_get_stride(surface);
+    const bool has_alpha = cairo_image_surface_get_format(surface) == CAIRO_FORMAT_ARGB32;
+    for (int row = 0; row < picture.height; ++row) {
+        const auto* const line =
+            reinterpret_cast<const std::uint32_t*>(cairo_image_surface_get_data(surface) + row * stride);
+        for (int column = 0; column < picture.width; ++column) {
+            const auto byte = [&](int shift) { return (line[column] >> shift & 0xFF) / 255.0; };
+            const double alpha = has_alpha ? byte(24) : 1.0, by = alpha > 0.0 ? 1.0 / alpha : 0.0;
+            picture.pixels.push_back({byte(16) * by, byte(8) * by, byte(0) * by, alpha});
         }
     }
-    cairo_surface_destroy(surface);
     return picture;
 }
 
 Picture image_named(const std::string& name)
 {
-    return read_picture(std::filesystem::path(R7_RESOURCES) / "images" / (name + ".png"));
+    const std::string file = R7_RESOURCES "/images/" + name + ".png";
+    cairo_surface_t* const surface = cairo_image_surface_create_from_png(file.c_str());
+    Picture picture = picture_of(surface);
+    cairo_surface_destroy(surface);
+    return picture;
 }
 
 Pixel seen(const Pixel& pixel, Eye eye)

@@ -1,9 +1,9 @@
-// A PNG file's pixels, and how they look to eyes of several kinds.
+// An image's pixels, and how they look to eyes of several kinds.
 #pragma once
 
+#include <cairo.h>
+
 #include <array>
-#include <cstdint>
-#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -16,18 +16,20 @@ struct Picture
 {
     int width = 0;
     int height = 0;
-    std::vector<Pixel> pixels; ///< row by row from the top; none where the file cannot be read
+    std::vector<Pixel> pixels; ///< row by row from the top; none in an empty picture
 
     /// Columns and rows from the upper left.
     const Pixel& at(int column, int row) const
     {
-        return pixels[static_cast<std::size_t>(row * width + column)];
+        return pixels[static_cast<std::size_t>(row) * static_cast<std::size_t>(width) +
+                      static_cast<std::size_t>(column)];
     }
 };
 
-/// The picture of a file; empty where it cannot be read.
-Picture read_picture(const std::filesystem::path& path);
-/// The image of a name in the panel's resources, "@2x" included where it is wanted.
+/// The pixels of an image surface of Cairo's; empty where it is in error.
+Picture picture_of(cairo_surface_t* surface);
+/// The image of a name in the panel's resources, "@2x" included where it is wanted; empty where there is
+/// none.
 Picture image_named(const std::string& name);
 
 enum class Eye
