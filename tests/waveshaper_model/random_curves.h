@@ -1,4 +1,4 @@
-// Curves, records and numbers at random, from a seed that a failing test prints.
+// Curves and coefficients at random, from a seed that a failing test prints.
 #pragma once
 
 #include "waveshaper/bezier_curve.h"
@@ -22,18 +22,9 @@ public:
     /// Any size and sign, now and then something that is no ordinary number.
     double wild()
     {
+        constexpr double kInfinity = std::numeric_limits<double>::infinity();
         constexpr double kOdd[] = {
-            0.0,
-            -0.0,
-            1.0,
-            -1.0,
-            1e-310,
-            1e300,
-            -1e300,
-            std::numeric_limits<double>::infinity(),
-            -std::numeric_limits<double>::infinity(),
-            std::numeric_limits<double>::quiet_NaN(),
-        };
+            0.0, -0.0, 1e-310, 1e300, kInfinity, -kInfinity, std::numeric_limits<double>::quiet_NaN()};
         if (below(6) == 0) return kOdd[below(std::size(kOdd))];
         return std::ldexp(between(-1, 1), static_cast<int>(below(12)) - 8);
     }
