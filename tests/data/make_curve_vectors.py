@@ -98,6 +98,7 @@ CURVES = {
     "end_pushed_into_the_middle": [("positive_end_point", 0.1, 0.4), ("positive_end_point", 0.1, 0.3)],
     "beyond_the_limits": [("positive_end_point", 9, 7), ("positive_mid_c1_point", -9, -7)],
     "zero_point_off_the_origin": [("zero_point", 0.0123, -0.1), ("positive_end_c1_point", 0, 1.3)],
+    "zero_point_alone": [("zero_point", 0.25, 9)],
     "mid_point_refuses": [("positive_mid_c2_point", 0, 0.8), ("positive_mid_point", 0.9, -1)],
     "upright_end": [(0.0, 0.0), (0.25, 0.5), (0.5, 0.75), (0.75, 0.5), (1.0, 1.0), (1.5, 1.5), (1.5, 0.1)],
     "segment_without_width": [(0.0, 0.0), (0.25, 0.5), (0.5, 0.25), (0.75, 0.5), (0.75, 0.25), (1.0, 0.5),

@@ -74,7 +74,7 @@ TEST(BezierCurve, AgreesWithTheVectorsToTheLastBit)
         }
         ASSERT_TRUE(words || line.empty()) << line;
     }
-    EXPECT_EQ(records, 9);
+    EXPECT_EQ(records, 10);
 }
 
 } // namespace
