@@ -11,6 +11,28 @@ struct AmplitudeLimits {
     float in_amplitude_max = 3.1415927F;
     float out_amplitude_min = -2.0F;
     float out_amplitude_max = 2.0F;
+
+    /// An amplitude kept within its limits. A NaN stays one.
+    double clamped_in(double amplitude) const
+    {
+        return clamped(amplitude, in_amplitude_min, in_amplitude_max);
+    }
+    double clamped_out(double amplitude) const
+    {
+        return clamped(amplitude, out_amplitude_min, out_amplitude_max);
+    }
+
+    AmplitudeLimits scaled_by(float factor) const
+    {
+        return {in_amplitude_min * factor, in_amplitude_max * factor, out_amplitude_min * factor,
+                out_amplitude_max * factor};
+    }
+
+private:
+    static double clamped(double value, double minimum, double maximum)
+    {
+        return value < minimum ? minimum : value > maximum ? maximum : value;
+    }
 };
 
 /// One axis of a graph: the amplitudes `minimum` to `maximum` spread over `length` points from `origin`.

@@ -20,15 +20,6 @@ float single(double value)
     return static_cast<float>(value);
 }
 
-/// `value` kept in a range; a NaN stays, and so does the lower limit where the limits are the wrong way
-/// round.
-float clamped(float value, float minimum, float maximum)
-{
-    if (value < minimum) return minimum;
-    if (value > maximum) return maximum;
-    return value;
-}
-
 } // namespace
 
 BezierCurve::BezierCurve()
@@ -50,8 +41,8 @@ void BezierCurve::set_point_to_in_amplitude_to_out_amplitude(CurvePoint which, f
                                                              float out_amplitude)
 {
     AmplitudePoint& moved = at(which);
-    moved.y = clamped(out_amplitude, limits_.out_amplitude_min, limits_.out_amplitude_max);
-    moved.x = clamped(in_amplitude, limits_.in_amplitude_min, limits_.in_amplitude_max);
+    moved.y = static_cast<PointCoordinate>(limits_.clamped_out(out_amplitude));
+    moved.x = static_cast<PointCoordinate>(limits_.clamped_in(in_amplitude));
     if (which == CurvePoint::zero_point) return;
     if (which == CurvePoint::positive_end_point) {
         const double leftmost = at(CurvePoint::positive_mid_point).x + kLeastMidToEnd;
