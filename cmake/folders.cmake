@@ -9,13 +9,13 @@ function(r7_library name)
   target_link_libraries(${name} PUBLIC r7_flags ${arg_LINKS})
 endfunction()
 
-# r7_test(NAME LINKS libraries...): the GoogleTest program of tests/NAME.
+# r7_test(NAME LINKS libraries... [LAUNCHER command...]): the GoogleTest program of tests/NAME, run by the launcher.
 function(r7_test name)
-  cmake_parse_arguments(arg "" "" "LINKS" ${ARGN})
+  cmake_parse_arguments(arg "" "" "LINKS;LAUNCHER" ${ARGN})
   file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/tests/${name}/*.cpp)
   add_executable(test_${name} ${sources})
   target_link_libraries(test_${name} PRIVATE r7_flags ${arg_LINKS} GTest::gtest_main)
   target_compile_definitions(test_${name} PRIVATE
     R7_TEST_DATA="${PROJECT_SOURCE_DIR}/tests/data" R7_RESOURCES="${PROJECT_SOURCE_DIR}/resources")
-  add_test(NAME ${name} COMMAND test_${name})
+  add_test(NAME ${name} COMMAND ${arg_LAUNCHER} $<TARGET_FILE:test_${name}>)
 endfunction()

@@ -1,0 +1,110 @@
+// The connection to a display.
+#include "platform/x11/connection.h"
+
+#include "platform/x11/desktop_scale.h"
+
+#include <bit>
+
+namespace r7 {
+
+namespace {
+
+// The screen that the display's name asks for.
+const xcb_screen_t* preferred_screen(const xcb_setup_t* setup, int number)
+{
+    xcb_screen_iterator_t screen = xcb_setup_roots_iterator(setup);
+    for (; screen.rem && number > 0; --number) xcb_screen_next(&screen);
+    return screen.rem ? screen.data : nullptr;
+}
+
+// The screen that a window is on, or none where there is no such window.
+const xcb_screen_t* screen_of(xcb_connection_t* connection, xcb_window_t window)
+{
+    const XcbPointer<xcb_get_geometry_reply_t> geometry(
+        xcb_get_geometry_reply(connection, xcb_get_geometry(connection, window), nullptr));
+    if (!geometry) return nullptr;
+    xcb_screen_iterator_t screen = xcb_setup_roots_iterator(xcb_get_setup(connection));
+    while (screen.rem && screen.data->root != geometry->root) xcb_screen_next(&screen);
+    return screen.rem ? screen.data : nullptr;
+}
+
+bool has_32_bits_a_pixel(const xcb_setup_t* setup, std::uint8_t depth)
+{
+    xcb_format_iterator_t format = xcb_setup_pixmap_formats_iterator(setup);
+    while (format.rem && format.data->depth != depth) xcb_format_next(&format);
+    return format.rem && format.data->bits_per_pixel == 32;
+}
+
+// The root window's visual where it serves, otherwise the first of the smallest depth that does; depth 0
+// where there is none.
+X11Visual usable_visual(const xcb_setup_t* setup, const xcb_screen_t& screen)
+{
+    constexpr auto kOrder =
+        std::endian::native == std::endian::little ? XCB_IMAGE_ORDER_LSB_FIRST : XCB_IMAGE_ORDER_MSB_FIRST;
+    X11Visual best;
+    if (setup->image_byte_order != kOrder) return best;
+    for (auto depth = xcb_screen_allowed_depths_iterator(&screen); depth.rem; xcb_depth_next(&depth)) {
+        const std::uint8_t bits = depth.data->depth;
+        if ((bits != 24 && bits != 32) || !has_32_bits_a_pixel(setup, bits)) continue;
+        for (auto i = xcb_depth_visuals_iterator(depth.data); i.rem; xcb_visualtype_next(&i)) {
+            const xcb_visualtype_t& visual = *i.data;
+            if (visual._class != XCB_VISUAL_CLASS_TRUE_COLOR || visual.red_mask != 0xff0000 ||
+                visual.green_mask != 0xff00 || visual.blue_mask != 0xff)
+                continue;
+            if (visual.visual_id == screen.root_visual) return {visual.visual_id, bits};
+            if (best.depth == 0 || bits < best.depth) best = {visual.visual_id, bits};
+        }
+    }
+    return best;
+}
+
+} // namespace
+
+std::unique_ptr<X11Connection> X11Connection::open(const std::string& display, xcb_window_t parent,
+                                                   X11OpenStatus& status)
+{
+    int number = 0;
+    std::unique_ptr<X11Connection> opened(
+        new X11Connection(xcb_connect(display.empty() ? nullptr : display.c_str(), &number)));
+    const auto refuse = [&status](X11OpenStatus reason) {
+        status = reason;
+        return nullptr;
+    };
+    if (opened->is_broken()) return refuse(X11OpenStatus::no_display);
+    const xcb_setup_t* setup = xcb_get_setup(opened->connection_);
+    opened->screen_ = parent ? screen_of(opened->connection_, parent) : preferred_screen(setup, number);
+    if (!opened->screen_) return refuse(parent ? X11OpenStatus::unusable_parent : X11OpenStatus::no_display);
+    opened->visual_ = usable_visual(setup, *opened->screen_);
+    if (opened->visual_.depth == 0) return refuse(X11OpenStatus::no_usable_visual);
+    status = X11OpenStatus::open;
+    return opened;
+}
+
+X11Connection::~X11Connection()
+{
+    xcb_disconnect(connection_);
+}
+
+double X11Connection::desktop_scale() const
+{
+    constexpr std::uint32_t kMostWords = 1 << 16;
+    // The desktop's settings are with the first screen, whichever screen the window is on.
+    const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(connection_)).data->root;
+    const XcbPointer<xcb_get_property_reply_t> property(xcb_get_property_reply(
+        connection_,
+        xcb_get_property(connection_, 0, root, XCB_ATOM_RESOURCE_MANAGER, XCB_ATOM_STRING, 0, kMostWords),
+        nullptr));
+    if (!property || property->format != 8) return 1.0;
+    return desktop_scale_of({static_cast<const char*>(xcb_get_property_value(property.get())),
+                             static_cast<std::size_t>(xcb_get_property_value_length(property.get()))});
+}
+
+xcb_atom_t X11Connection::atom(std::string_view name) const
+{
+    const XcbPointer<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(
+        connection_, xcb_intern_atom(connection_, 0, static_cast<std::uint16_t>(name.size()), name.data()),
+        nullptr));
+    return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
+}
+
+} // namespace r7

@@ -1,0 +1,130 @@
+// Real events of a real server: presses, drags, clicks, keys held, wheel.
+#include "tests/x11/rig.h"
+
+#include <poll.h>
+
+namespace r7::testing_x11 {
+namespace {
+
+struct X11Events : X11Test {
+    Shown shown{loop};
+
+    void SetUp() override
+    {
+        ASSERT_TRUE(settle(shown));
+        display.move_to(311, 220);
+    }
+    // What is heard until that word is among it.
+    std::string heard_until(std::string_view word)
+    {
+        EXPECT_TRUE(turn_until([&] { return shown.view->has_heard(word); })) << word;
+        return shown.view->heard();
+    }
+};
+
+TEST_F(X11Events, DragIsFollowedOutsideTheWindow)
+{
+    display.press(1);
+    display.move_to(315, 210);
+    display.move_to(290, 390);
+    display.release(1);
+    EXPECT_EQ(heard_until("up"), "down 11,129 by 0,0 x1\n"
+                                 "drag 15,139 by 4,-10 x1\n"
+                                 "drag -10,-41 by -25,180 x1\n"
+                                 "up -10,-41 by 0,0 x1\n");
+}
+
+TEST_F(X11Events, ClicksAreCountedPerButton)
+{
+    for (const int button : {1, 1, 1, 3, 3}) display.click(button);
+    display.click(2);
+    display.click(1);
+    std::string expected;
+    for (const char* count : {"x1\n", "x2\n", "x3\n"})
+        for (const char* what : {"down", "up"}) expected += std::string(what) + " 11,129 by 0,0 " + count;
+    for (const char* count : {"x1\n", "x2\n"})
+        for (const char* what : {"right down", "right up"})
+            expected += std::string(what) + " 11,129 by 0,0 " + count;
+    expected += "down 11,129 by 0,0 x1\nup 11,129 by 0,0 x1\n";
+    EXPECT_TRUE(turn_until([&] {
+        return shown.view->has_heard("right up 11,129 by 0,0 x2\ndown") &&
+               shown.view->has_heard("x1\nup 11,129 by 0,0 x1\n");
+    }));
+    EXPECT_EQ(shown.view->heard(), expected);
+}
+
+TEST_F(X11Events, FirstPressedOfTwoButtonsDrags)
+{
+    display.press(3);
+    display.press(1);
+    display.move_to(313, 220);
+    display.release(3);
+    display.move_to(316, 220);
+    display.release(1);
+    EXPECT_EQ(heard_until("\nup"), "right down 11,129 by 0,0 x1\n"
+                                   "down 11,129 by 0,0 x1\n"
+                                   "right drag 13,129 by 2,0 x1\n"
+                                   "right up 13,129 by 0,0 x1\n"
+                                   "drag 16,129 by 3,0 x1\n"
+                                   "up 16,129 by 0,0 x1\n");
+}
+
+TEST_F(X11Events, ModifiersAreNamed)
+{
+    const std::pair<int, std::string_view> kCases[] = {
+        {XCB_MAP_INDEX_SHIFT, " 0x20000\n"}, {XCB_MAP_INDEX_CONTROL, " 0x40000\n"},
+        {XCB_MAP_INDEX_1, " 0x80000\n"},     {XCB_MAP_INDEX_5, " 0x80000\n"},
+        {XCB_MAP_INDEX_4, " 0x100000\n"},
+    };
+    for (const auto& [modifier, flags] : kCases) {
+        display.hold_modifier(modifier, true);
+        display.click(4);
+        display.hold_modifier(modifier, false);
+        EXPECT_EQ(heard_until("wheel"), "wheel 11,129 by 0,1 x1" + std::string(flags)) << modifier;
+    }
+    for (const int modifier : {XCB_MAP_INDEX_SHIFT, XCB_MAP_INDEX_CONTROL})
+        display.hold_modifier(modifier, true);
+    display.click(1);
+    for (const int modifier : {XCB_MAP_INDEX_SHIFT, XCB_MAP_INDEX_CONTROL})
+        display.hold_modifier(modifier, false);
+    EXPECT_EQ(heard_until("up"), "down 11,129 by 0,0 x1 0x60000\nup 11,129 by 0,0 x1 0x60000\n");
+}
+
+TEST_F(X11Events, WheelGoesUpDownLeftRightByOne)
+{
+    for (const int button : {4, 5, 6, 7}) display.click(button);
+    EXPECT_EQ(heard_until("by 1,0"), "wheel 11,129 by 0,1 x1\n"
+                                     "wheel 11,129 by 0,-1 x1\n"
+                                     "wheel 11,129 by -1,0 x1\n"
+                                     "wheel 11,129 by 1,0 x1\n");
+}
+
+TEST_F(X11Events, PixelsAreHalfPointsAtTwiceTheScale)
+{
+    Shown fine(loop, {.scale = 2.0});
+    ASSERT_TRUE(settle(fine, 600, 400));
+    display.move_to(600, 400);
+    display.press(1);
+    display.move_to(999, 699);
+    display.release(1);
+    ASSERT_TRUE(turn_until([&] { return fine.view->has_heard("up"); }));
+    EXPECT_EQ(fine.view->heard(), "down 0,149.5 by 0,0 x1\n"
+                                  "drag 199.5,0 by 199.5,149.5 x1\n"
+                                  "up 199.5,0 by 0,0 x1\n");
+    EXPECT_EQ(shown.view->heard(), "") << "the other window of this process";
+}
+
+TEST_F(X11Events, PassingPointerWakesNobody)
+{
+    const std::uint64_t sent = shown.x11->bytes_sent();
+    display.move_to(320, 230);
+    display.move_to(330, 240);
+    pollfd file{shown.x11->file_descriptor(), POLLIN, 0};
+    EXPECT_EQ(poll(&file, 1, 0), 0);
+    EXPECT_FALSE(shown.x11->is_pending());
+    loop.turn(Time{0});
+    EXPECT_EQ(shown.x11->bytes_sent(), sent);
+}
+
+} // namespace
+} // namespace r7::testing_x11
