@@ -57,6 +57,16 @@ void configure(QmR7FiveStateIndicatorLightView& light, std::int32_t state, const
     light.set_indicator_state(state);
 }
 
+// What an editor and a display of a tone control have in common.
+void configure(ToneControlView& view, const ColorRef& curve, const ColorRef& fill)
+{
+    view.setCurveColor_fill(curve, fill);
+    view.set_sample_rate(kToneSampleRate);
+    view.set_amplitude_maximum_gain_in_db(kToneMaximumGain);
+    view.set_minimum_frequency(kToneMinimumFrequency);
+    view.set_maximum_frequency(kToneMaximumFrequency);
+}
+
 } // namespace
 
 void QmR7View::awakeFromNib()
@@ -78,6 +88,22 @@ void QmR7View::awakeFromNib()
     // The vowels start one position apart, like their switches.
     configure(*start_vowel_light, 1, bundle);
     configure(*end_vowel_light, 2, bundle);
+
+    const ColorRef curve = Color::pattern(bundle.image_resource("blue-bar"));
+    const ColorRef grid = Color::pattern(bundle.image_resource("LCD-grid"));
+    zoomed_wave_shaper_display->set_color_curve(curve);
+    zoomed_wave_shaper_display->set_color_background(Color::device_white(0.0, 0.6));
+    zoomed_wave_shaper_display->set_callback_onObject(kKnobCallback, handle_);
+    zoomed_wave_shaper_display->set_toggle_callback_onObject(kToggleCallback, handle_);
+    for (const StageRow& row : kStageRows)
+        (this->*row.display)->set_toggle_callback_onObject(kToggleCallback, handle_);
+    for (const ToneRow& row : kToneRows) {
+        configure(*(this->*row.editor), curve, grid);
+        configure(*(this->*row.display), curve, grid);
+        (this->*row.editor)->set_callback_onObject(kKnobCallback, handle_);
+        (this->*row.editor)->set_toggle_callback_onObject(kToggleCallback, handle_);
+        (this->*row.display)->set_toggle_callback_onObject(kToggleCallback, handle_);
+    }
 
     set_needs_display();
 }

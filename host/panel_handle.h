@@ -6,8 +6,8 @@
 
 namespace r7 {
 
-/// Leads to the panel while it exists. Controls retain their target; this one does not own the panel, so
-/// that no cycle keeps it alive.
+/// Leads to the panel while it exists. Controls retain their target; this one does not own the panel, so that
+/// no cycle keeps it alive.
 struct PanelHandle final : ActionTarget {
     explicit PanelHandle(QmR7View& owner) : panel(&owner) {}
 
@@ -25,5 +25,6 @@ void panel_action(ActionTarget& target, View& sender)
 }
 
 inline constexpr Action kKnobCallback = &panel_action<&QmR7View::knob_callback>;
+inline constexpr Action kToggleCallback = &panel_action<&QmR7View::toggle_callback>;
 
 } // namespace r7

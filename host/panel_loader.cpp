@@ -29,6 +29,10 @@ constexpr std::array kClasses = std::to_array<ClassRow>({
     {"QmIndicatorLightView", &make<QmIndicatorLightView>},
     {"QmR7FiveStateIndicatorLightView", &make<QmR7FiveStateIndicatorLightView>},
     {"QmR7TenStateIndicatorLightView", &make<QmR7TenStateIndicatorLightView>},
+    {"QM_BezierWaveShaperView", &make<QM_BezierWaveShaperView>},
+    {"QM_BezierWaveShaperResponseView", &make<QM_BezierWaveShaperResponseView>},
+    {"Qm_ParametricEQView", &make<Qm_ParametricEQView>},
+    {"QM_R7_ParametericEQ_Response_View", &make<QM_R7_ParametericEQ_Response_View>},
 });
 
 } // namespace
@@ -51,9 +55,8 @@ std::variant<std::shared_ptr<QmR7View>, DescriptionProblem> load_panel(std::shar
         const ViewRef view = made->make(row.frame);
         if (!connect(*panel, *outlet, view))
             return DescriptionProblem{"outlet " + row.outlet + " takes no " + row.class_name};
-        // What starts hidden is shown in a window of its own, one day.
-        if (row.starts_hidden) view->set_hidden(true);
-        else panel->add_subview(view);
+        view->set_hidden(row.starts_hidden);
+        panel->add_subview(view);
     }
     for (const OutletRow& outlet : outlet_rows())
         if (!view_in(*panel, outlet))

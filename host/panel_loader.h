@@ -1,9 +1,9 @@
 // Makes a panel and everything in it from an interface description.
 #pragma once
 
-#include "host/interface_description.h"
 #include "host/panel_view.h"
 #include "platform/bundle.h"
+#include "platform/interface_description.h"
 
 #include <memory>
 #include <variant>

@@ -11,6 +11,13 @@ namespace {
 using O = PanelOutlets;
 
 constexpr std::array kRows = std::to_array<OutletRow>({
+    {"pre_tone_control_display", &O::pre_tone_control_display},
+    {"post_tone_control_display", &O::post_tone_control_display},
+    {"pre_tone_control", &O::pre_tone_control},
+    {"post_tone_control", &O::post_tone_control},
+    {"wave_shaper_one_display", &O::wave_shaper_one_display},
+    {"wave_shaper_two_display", &O::wave_shaper_two_display},
+    {"zoomed_wave_shaper_display", &O::zoomed_wave_shaper_display},
     {"delay_depth_knob", &O::delay_depth_knob},
     {"delay_feedback_knob", &O::delay_feedback_knob},
     {"delay_delay_knob", &O::delay_delay_knob},

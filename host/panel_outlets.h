@@ -4,6 +4,10 @@
 #include "controls/indicator_light_view.h"
 #include "controls/knob_view.h"
 #include "controls/push_mode_knob_view.h"
+#include "tonecontrol/parametric_eq_response_view.h"
+#include "tonecontrol/parametric_eq_view.h"
+#include "waveshaper/bezier_wave_shaper_response_view.h"
+#include "waveshaper/bezier_wave_shaper_view.h"
 
 #include <memory>
 #include <span>
@@ -14,6 +18,15 @@ namespace r7 {
 
 /// One field for each control; all are set in a loaded panel.
 struct PanelOutlets {
+    std::shared_ptr<QM_R7_ParametericEQ_Response_View> pre_tone_control_display;
+    std::shared_ptr<QM_R7_ParametericEQ_Response_View> post_tone_control_display;
+    std::shared_ptr<Qm_ParametricEQView> pre_tone_control;
+    std::shared_ptr<Qm_ParametricEQView> post_tone_control;
+
+    std::shared_ptr<QM_BezierWaveShaperResponseView> wave_shaper_one_display;
+    std::shared_ptr<QM_BezierWaveShaperResponseView> wave_shaper_two_display;
+    std::shared_ptr<QM_BezierWaveShaperView> zoomed_wave_shaper_display;
+
     std::shared_ptr<QmKnobView> delay_depth_knob;
     std::shared_ptr<QmKnobView> delay_feedback_knob;
     std::shared_ptr<QmKnobView> delay_delay_knob;
@@ -53,7 +66,9 @@ using Outlet = std::shared_ptr<V> PanelOutlets::*;
 struct OutletRow {
     std::string_view name;
     std::variant<Outlet<QmKnobView>, Outlet<QmR7PushModeKnobView>, Outlet<QmIndicatorLightView>,
-                 Outlet<QmR7FiveStateIndicatorLightView>, Outlet<QmR7TenStateIndicatorLightView>>
+                 Outlet<QmR7FiveStateIndicatorLightView>, Outlet<QmR7TenStateIndicatorLightView>,
+                 Outlet<QM_BezierWaveShaperView>, Outlet<QM_BezierWaveShaperResponseView>,
+                 Outlet<Qm_ParametricEQView>, Outlet<QM_R7_ParametericEQ_Response_View>>
         field;
 };
 

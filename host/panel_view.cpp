@@ -57,6 +57,7 @@ QmR7View::~QmR7View()
     // A control may outlive its panel in somebody's hand: what it was lent is empty from here on.
     handle_->panel = nullptr;
     _removeListeners();
+    close_overlay();
 }
 
 void QmR7View::setAU(AudioUnit unit)

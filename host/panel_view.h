@@ -1,8 +1,11 @@
 // The panel: one Audio Unit's parameters and curves, shown by controls and edited with them.
 #pragma once
 
+#include "host/overlay_window.h"
 #include "host/panel_outlets.h"
 #include "host/panel_tables.h"
+#include "host/stage_rows.h"
+#include "host/tone_rows.h"
 #include "platform/audio_toolbox.h"
 #include "platform/bundle.h"
 #include "platform/image.h"
@@ -11,6 +14,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 
 namespace r7 {
 
@@ -48,6 +52,8 @@ public:
 
     /// A control was moved by the user. An unknown sender does nothing.
     void knob_callback(View& sender);
+    /// A display asks for its editor, or an editor asks to be closed. While an editor is open no other opens.
+    void toggle_callback(View& sender);
     /// Sets a parameter of the bound unit; the panel itself is not told of it. Unbound, nothing is sent.
     void set_au_parameter_to_value(AudioUnitParameterID parameter, AudioUnitParameterValue value);
 
@@ -55,10 +61,14 @@ public:
     const _QM_R7_Bezier_Sequence& stage_two_data() const { return stage_two_waveshaper_data; }
     std::int32_t tone_control_state() const { return zoomed_tone_control_state; }
     std::int32_t wave_shaper_state() const { return zoomed_wave_shaper_state; }
+    /// The window of the zoomed editor, or none.
+    const QM_R7_Overlay_Window* overlay() const { return overlay_window.get(); }
 
     void drawRect(Graphics& graphics, const Rect& dirty) override;
     /// Gives every control its images, range, start value, speeds and callback.
     void awakeFromNib() override;
+    /// An open editor closes when the panel leaves its window.
+    void viewDidMoveToWindow() override;
 
 private:
     void _addListeners();
@@ -66,14 +76,30 @@ private:
     void _synchronizeUIWithParameterValues();
 
     void parameter_changed(AudioUnitParameterID id, float value);
+    void knob_changed(const KnobRow& row, float value);
+    void switch_changed(const SwitchRow& row, float value);
+
     void knob_moved(const KnobRow& row);
     void switch_moved(const SwitchRow& row);
+    void tone_control_moved(const ToneRow& row);
+    void curve_edited();
+
     void show_lamp(const LampOutlet& lamp, std::int32_t state);
+    void show_mode(const SwitchRow& row, std::optional<std::int32_t> position);
+    bool is_zoomed(const StageRow& row) const { return zoomed_wave_shaper_state == row.zoom_state; }
+    _QM_R7_Bezier_Sequence& data_of(const StageRow& row);
+
+    void zoom_stage(const StageRow& row);
+    void zoom_tone_control(const ToneRow& row);
+    // False where the panel is in no window.
+    bool open_overlay(const ViewRef& editor);
+    void close_overlay();
 
     std::shared_ptr<const Bundle> bundle_;
     // What the controls call back: lent to them, so that they do not keep the panel alive.
     std::shared_ptr<PanelHandle> handle_;
     ImageRef bgImage;
+    std::shared_ptr<QM_R7_Overlay_Window> overlay_window;
     _QM_R7_Bezier_Sequence stage_one_waveshaper_data{};
     _QM_R7_Bezier_Sequence stage_two_waveshaper_data{};
     AudioUnit mAU = nullptr;

@@ -3,8 +3,6 @@
 #include "resources/art/mock.h"
 
 #include <cstdio>
-#include <fstream>
-#include <iterator>
 #include <string>
 #include <vector>
 
@@ -23,7 +21,7 @@ bool write(const Canvas& canvas, const std::filesystem::path& path)
     return false;
 }
 
-bool draw_images(const Description& description, const std::filesystem::path& folder)
+bool draw_images(const InterfaceDescription& description, const std::filesystem::path& folder)
 {
     for (const ImageRow& row : all_images(description))
         if (!write(drawn(row, 1), folder / (row.name + ".png")) ||
@@ -44,15 +42,13 @@ int main(int count, char** words)
     }
 
     const std::filesystem::path resources = arguments[0], file = resources / "QmR7View.xml";
-    std::ifstream stream(file);
-    const std::string xml{std::istreambuf_iterator<char>(stream), {}};
-    std::string error;
-    const auto description = parse_description(xml, error);
-    if (!description) {
-        std::fprintf(stderr, "%s: %s\n", file.c_str(), error.c_str());
+    const auto read = read_interface_description(file);
+    if (const auto* problem = std::get_if<DescriptionProblem>(&read)) {
+        std::fprintf(stderr, "%s: %s\n", file.c_str(), problem->text.c_str());
         return 1;
     }
-    if (!mock) return draw_images(*description, resources / "images") ? 0 : 1;
+    const auto& description = std::get<InterfaceDescription>(read);
+    if (!mock) return draw_images(description, resources / "images") ? 0 : 1;
     const int scale = arguments.size() == 4 && arguments[3] == "2" ? 2 : 1;
-    return write(mock_panel(*description, scale), arguments[2]) ? 0 : 1;
+    return write(mock_panel(description, scale), arguments[2]) ? 0 : 1;
 }

@@ -9,8 +9,7 @@ namespace r7::art {
 namespace {
 
 // The mean of a pixel's samples, weighed by their alpha, as Cairo keeps pixels: premultiplied.
-class Mean final
-{
+class Mean final {
 public:
     void add(const Tint& tint)
     {

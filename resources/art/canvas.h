@@ -16,14 +16,9 @@ namespace r7::art {
 using Shader = std::function<Tint(Point)>;
 
 /// A picture in points, y upward, at 1 or 2 pixels a point.
-class Canvas final
-{
+class Canvas final {
 public:
-    enum class Ground
-    {
-        clear,
-        opaque
-    };
+    enum class Ground { clear, opaque };
 
     Canvas(Size size, int scale, Ground ground = Ground::clear);
 
@@ -47,8 +42,7 @@ public:
     [[nodiscard]] bool write_png(const std::filesystem::path& path) const;
 
 private:
-    struct Free
-    {
+    struct Free {
         void operator()(cairo_surface_t* surface) const { cairo_surface_destroy(surface); }
         void operator()(cairo_t* context) const { cairo_destroy(context); }
     };

@@ -34,8 +34,7 @@ void paint_glass(Canvas& canvas, const Rect& glass)
 }
 
 // A line of one device pixel, on whole pixels, at the nearest place to x (or y).
-class Grid final
-{
+class Grid final {
 public:
     Grid(Canvas& canvas, const Rect& area) : canvas_(canvas), area_(area) {}
 
@@ -76,8 +75,7 @@ void print_tone_grid(Canvas& canvas, const Rect& frame)
             if (digit * decade > kLowest) grid.vertical(x_of(digit * decade), digit == 1 ? 0.34 : 0.11);
     for (const double db : {-20.0, 0.0, 20.0}) grid.horizontal(y_of(db), db == 0.0 ? 0.42 : 0.22);
 
-    const struct
-    {
+    const struct {
         double hz;
         const char* text;
     } decades[] = {{100.0, "100"}, {1000.0, "1k"}, {10000.0, "10k"}};

@@ -14,26 +14,24 @@ namespace {
 
 constexpr KnobKind kKnobKinds[] = {KnobKind::red, KnobKind::big_rubber, KnobKind::small_rubber};
 
-struct SwitchFamily
-{
+struct SwitchFamily {
     SwitchKind kind;
     const char* name;
 };
 constexpr SwitchFamily kSwitchFamilies[] = {{SwitchKind::push_button, "Push Button"},
                                             {SwitchKind::red_switch, "Matched Red Switch"}};
 
-struct TiltName
-{
+struct TiltName {
     Tilt tilt;
     const char* name;
 };
 constexpr TiltName kTilts[] = {{Tilt::left, " Left"}, {Tilt::flat, " Flat"}, {Tilt::right, " Right"}};
 
 // The size of the frames of a family of switches.
-Size size_of(SwitchKind kind, const Description& description)
+Size size_of(SwitchKind kind, const InterfaceDescription& description)
 {
     for (const SwitchRow& row : kSwitches) {
-        const DescribedView* const view = row.kind == kind ? description.find(row.outlet) : nullptr;
+        const ViewDescription* const view = row.kind == kind ? description.find(row.outlet) : nullptr;
         if (view) return view->frame.size();
     }
     return {64.0, 32.0};
@@ -41,11 +39,11 @@ Size size_of(SwitchKind kind, const Description& description)
 
 } // namespace
 
-std::vector<ImageRow> all_images(const Description& description)
+std::vector<ImageRow> all_images(const InterfaceDescription& description)
 {
     const Canvas::Ground clear = Canvas::Ground::clear;
     std::vector<ImageRow> rows;
-    rows.push_back({"r7-bg", description.size, Canvas::Ground::opaque,
+    rows.push_back({"r7-bg", description.panel_size, Canvas::Ground::opaque,
                     [&](Canvas& canvas) { paint_background(canvas, description); }});
     for (const KnobKind kind : kKnobKinds) {
         const KnobShape& shape = shape_of(kind);

@@ -1,8 +1,8 @@
 // Every image of the panel, by name.
 #pragma once
 
+#include "platform/interface_description.h"
 #include "resources/art/canvas.h"
-#include "resources/art/description.h"
 
 #include <functional>
 #include <string>
@@ -10,8 +10,7 @@
 
 namespace r7::art {
 
-struct ImageRow
-{
+struct ImageRow {
     std::string name; ///< of the file, without ".png"
     Size size;
     Canvas::Ground ground;
@@ -19,7 +18,7 @@ struct ImageRow
 };
 
 /// The images for a panel of that description, which has to outlive the rows.
-std::vector<ImageRow> all_images(const Description& description);
+std::vector<ImageRow> all_images(const InterfaceDescription& description);
 
 /// One image, drawn.
 Canvas drawn(const ImageRow& row, int scale);

@@ -11,8 +11,7 @@ namespace r7::art {
 namespace {
 
 // A point of a round body, as the shaders want it.
-struct Polar
-{
+struct Polar {
     double radius, angle, x, y; // x, y: the unit vector outward
 };
 
@@ -69,8 +68,7 @@ Tint red_knob(Point point)
     return mix(lit_top, kRedGlare, 0.10 * sheen);
 }
 
-struct Rubber
-{
+struct Rubber {
     double radius, plateau; // of the whole, and of the smooth top
     int ribs;
     double fall, depth; // of the side, and of the grooves between the ribs, in points

@@ -11,11 +11,7 @@ void paint_knob(Canvas& canvas, KnobKind kind);
 
 inline constexpr double kMarkerPicture = 16.0; ///< width and height of the marker's picture, in points
 
-enum class Marker
-{
-    at_rest,
-    held
-};
+enum class Marker { at_rest, held };
 
 void paint_marker(Canvas& canvas, Marker marker);
 

@@ -7,15 +7,9 @@
 
 namespace r7::art {
 
-enum class Anchor
-{
-    left,
-    center,
-    right
-};
+enum class Anchor { left, center, right };
 
-struct TextStyle
-{
+struct TextStyle {
     double size = 11.0;   ///< in points
     double spacing = 0.0; ///< added between letters, in points
     Tint tint;

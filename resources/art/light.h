@@ -8,8 +8,7 @@
 namespace r7::art {
 
 /// A colour in linear light, straight alpha.
-struct Tint
-{
+struct Tint {
     double red = 0.0;
     double green = 0.0;
     double blue = 0.0;
@@ -32,8 +31,7 @@ Tint over(const Tint& top, const Tint& bottom);
 Tint scaled(const Tint& tint, double by);
 Tint with_alpha(const Tint& tint, double alpha);
 
-struct Vector
-{
+struct Vector {
     double x = 0.0;
     double y = 0.0;
     double z = 0.0;
@@ -45,8 +43,7 @@ Vector normalized(const Vector& v);
 /// Toward the lamp: from the top left, in front of the panel (x rightward, y upward, z toward the viewer).
 inline const Vector kLight = normalized({-0.46, 0.62, 0.64});
 
-struct Material
-{
+struct Material {
     Tint color;          ///< of a face turned to the viewer
     double sheen = 0.0;  ///< strength of the lamp's reflection
     double gloss = 12.0; ///< its sharpness

@@ -22,10 +22,10 @@ Point centered(const Rect& frame, Size picture)
     return {frame.x + (frame.width - picture.width) * 0.5, frame.y + (frame.height - picture.height) * 0.5};
 }
 
-void place_knobs(Canvas& panel, const Description& description)
+void place_knobs(Canvas& panel, const InterfaceDescription& description)
 {
     for (const KnobRow& row : kKnobs) {
-        const DescribedView* const view = description.find(row.outlet);
+        const ViewDescription* const view = description.find(row.outlet);
         if (!view) continue;
         const KnobShape& shape = shape_of(row.kind);
         const Size size{shape.picture, shape.picture};
@@ -43,17 +43,17 @@ void place_knobs(Canvas& panel, const Description& description)
     }
 }
 
-void place_switches_and_lights(Canvas& panel, const Description& description)
+void place_switches_and_lights(Canvas& panel, const InterfaceDescription& description)
 {
     for (const SwitchRow& row : kSwitches) {
-        const DescribedView* const view = description.find(row.outlet);
+        const ViewDescription* const view = description.find(row.outlet);
         if (!view) continue;
         Canvas picture(view->frame.size(), panel.scale());
         paint_switch(picture, row.kind, Tilt::flat);
         panel.place(picture, view->frame.origin());
     }
     for (const LightRow& row : kLights) {
-        const DescribedView* const view = description.find(row.outlet);
+        const ViewDescription* const view = description.find(row.outlet);
         if (!view) continue;
         Canvas lamp({kLampPicture, kLampPicture}, panel.scale());
         paint_lamp(lamp, kLamps[row.lamps[static_cast<std::size_t>(row.start)]]);
@@ -103,13 +103,13 @@ void stroke_sine(Canvas& panel, const Rect& frame)
 
 } // namespace
 
-Canvas mock_panel(const Description& description, int scale)
+Canvas mock_panel(const InterfaceDescription& description, int scale)
 {
     Canvas panel = drawn(all_images(description).front(), scale);
     place_knobs(panel, description);
     place_switches_and_lights(panel, description);
     for (const DisplayRow& row : kDisplays) {
-        const DescribedView* const view = description.find(row.outlet);
+        const ViewDescription* const view = description.find(row.outlet);
         if (!view) continue;
         if (row.kind == DisplayKind::tone_control)
             fill_tone_curve(panel, view->frame);

@@ -78,10 +78,10 @@ void shade_below_knob(Canvas& canvas, const Rect& frame, Point center, const Kno
         2);
 }
 
-void paint_knobs_surroundings(Canvas& canvas, const Description& description)
+void paint_knobs_surroundings(Canvas& canvas, const InterfaceDescription& description)
 {
     for (const KnobRow& knob : kKnobs) {
-        const DescribedView* const view = description.find(knob.outlet);
+        const ViewDescription* const view = description.find(knob.outlet);
         if (!view) continue;
         const KnobShape& shape = shape_of(knob.kind);
         const Point center = center_of(view->frame);
@@ -123,11 +123,11 @@ void print_label(Canvas& canvas, const Rect& frame, const LabelRow& row)
     }
 }
 
-void print_keys(Canvas& canvas, const Description& description)
+void print_keys(Canvas& canvas, const InterfaceDescription& description)
 {
     for (const KeyRow& row : kKeys) {
-        const DescribedView* const first = description.find(row.first);
-        const DescribedView* const last = description.find(row.last);
+        const ViewDescription* const first = description.find(row.first);
+        const ViewDescription* const last = description.find(row.last);
         if (!first || !last) continue;
         const Point middle = center_of(enclosing(first->frame, last->frame));
         print_key(canvas, *std::ranges::find(kLights, row.first, &LightRow::outlet),
@@ -135,10 +135,10 @@ void print_keys(Canvas& canvas, const Description& description)
     }
 }
 
-void print_labels(Canvas& canvas, const Description& description)
+void print_labels(Canvas& canvas, const InterfaceDescription& description)
 {
     for (const LabelRow& row : kLabels)
-        if (const DescribedView* const view = description.find(row.outlet))
+        if (const ViewDescription* const view = description.find(row.outlet))
             print_label(canvas, view->frame, row);
 }
 
@@ -153,7 +153,7 @@ void paint_groups(Canvas& canvas)
 
 } // namespace
 
-void paint_background(Canvas& canvas, const Description& description)
+void paint_background(Canvas& canvas, const InterfaceDescription& description)
 {
     paint_plate(canvas);
     paint_groups(canvas);
@@ -161,7 +161,7 @@ void paint_background(Canvas& canvas, const Description& description)
     print_labels(canvas, description);
     print_keys(canvas, description);
     for (const DisplayRow& row : kDisplays)
-        if (const DescribedView* const view = description.find(row.outlet))
+        if (const ViewDescription* const view = description.find(row.outlet))
             paint_display(canvas, view->frame, row, kTitleStyle);
     paint_header(canvas);
 }

@@ -11,16 +11,10 @@
 
 namespace r7::art {
 
-enum class KnobKind
-{
-    red,
-    big_rubber,
-    small_rubber
-};
+enum class KnobKind { red, big_rubber, small_rubber };
 
 /// The measures of a family of knobs, in points; the marker travels at `marker_inset` of half the picture.
-struct KnobShape
-{
+struct KnobShape {
     std::string_view image;
     double picture; ///< width and height of the picture
     double radius;  ///< of the body
@@ -40,8 +34,7 @@ constexpr const KnobShape& shape_of(KnobKind kind)
     return kKnobShapes[static_cast<int>(kind)];
 }
 
-struct KnobRow
-{
+struct KnobRow {
     std::string_view outlet;
     KnobKind kind;
     std::string_view label;
@@ -69,14 +62,9 @@ inline constexpr KnobRow kKnobs[] = {
     {"wave_shaper_two_d", KnobKind::small_rubber, "D", 0.25},
 };
 
-enum class SwitchKind
-{
-    push_button,
-    red_switch
-};
+enum class SwitchKind { push_button, red_switch };
 
-struct SwitchRow
-{
+struct SwitchRow {
     std::string_view outlet;
     SwitchKind kind;
 };
@@ -90,17 +78,11 @@ inline constexpr SwitchRow kSwitches[] = {
 /// What the waveshapers' displays call the positions of their mode switches, in order.
 inline constexpr std::string_view kModeLetters = "-  A  B  C  D  E";
 
-enum class Side
-{
-    below,
-    left,
-    right
-};
+enum class Side { below, left, right };
 
 /// Print beside a control that is no knob, `distance` points from its frame to the baseline or the nearest
 /// letter.
-struct LabelRow
-{
+struct LabelRow {
     std::string_view outlet;
     std::string_view text;
     Side side;
@@ -116,8 +98,7 @@ inline constexpr LabelRow kLabels[] = {
 };
 
 /// A lamp's picture: its colour when lit, and the sign that is engraved in its lens.
-struct LampRow
-{
+struct LampRow {
     std::string_view image;
     std::uint32_t color;
     Sign sign;
@@ -133,8 +114,7 @@ inline constexpr LampRow kLamps[] = {
 };
 
 /// A light of the panel, with its lamps (rows of kLamps) in the order of its states.
-struct LightRow
-{
+struct LightRow {
     std::string_view outlet;
     std::array<std::int8_t, 10> lamps; ///< -1 from the last one on
     int start;                         ///< an index of `lamps`
@@ -149,8 +129,7 @@ inline constexpr LightRow kLights[] = {
 
 /// The signs of a light's lamps, in the order of its states and each in its lamp's colour, printed `distance`
 /// points above the lights `first` to `last`, which share them.
-struct KeyRow
-{
+struct KeyRow {
     std::string_view first;
     std::string_view last;
     double distance;
@@ -162,8 +141,7 @@ inline constexpr KeyRow kKeys[] = {
 };
 
 /// A group of controls in its recess, on the grid; the recess reaches kGroupMargin farther on every side.
-struct GroupRow
-{
+struct GroupRow {
     std::string_view title;
     Rect room;
 };
@@ -179,14 +157,9 @@ inline constexpr GroupRow kGroups[] = {
 /// Grooves: between two parts of the vowel filter, and along the header.
 inline constexpr Rect kGrooves[] = {{411.0, 392.0, 2.0, 136.0}, {76.0, 577.0, 772.0, 2.0}};
 
-enum class DisplayKind
-{
-    tone_control,
-    waveshaper
-};
+enum class DisplayKind { tone_control, waveshaper };
 
-struct DisplayRow
-{
+struct DisplayRow {
     std::string_view outlet;
     DisplayKind kind;
     std::string_view title;

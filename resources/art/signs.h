@@ -5,20 +5,7 @@
 
 namespace r7::art {
 
-enum class Sign
-{
-    none,
-    ring,
-    bar,
-    triangle,
-    twin_bars,
-    plus,
-    lozenge,
-    dash,
-    cross,
-    half_disc,
-    twin_posts
-};
+enum class Sign { none, ring, bar, triangle, twin_bars, plus, lozenge, dash, cross, half_disc, twin_posts };
 
 /// Half the width and height that a sign takes, in points.
 inline constexpr double kSignExtent = 8.0;

@@ -22,8 +22,7 @@ double chevron(Point p, double direction)
     return std::hypot(x - (2.0 - along), y - along) - 0.75;
 }
 
-struct Rocker
-{
+struct Rocker {
     Rect cap;
     double tilt; // -1 with the left half down, 1 with the right one
     Material material;

@@ -6,12 +6,7 @@
 
 namespace r7::art {
 
-enum class Tilt
-{
-    left = -1,
-    flat = 0,
-    right = 1
-};
+enum class Tilt { left = -1, flat = 0, right = 1 };
 
 /// Fills the canvas, of the size of the switch's frame.
 void paint_switch(Canvas& canvas, SwitchKind kind, Tilt tilt);

@@ -1,7 +1,7 @@
 // The factory and descriptions: what loads, and what a bad one gets.
-#include "host/interface_description.h"
 #include "host/panel_loader.h"
 #include "host/view_factory.h"
+#include "platform/interface_description.h"
 #include "platform/log.h"
 
 #include <gtest/gtest.h>
@@ -76,7 +76,8 @@ TEST_F(PanelLoader, ABadDescriptionGivesTheMessageAndNoView)
         {"an enormous panel", "width=\"960\"", "width=\"1e9\"", "width is out of range"},
         {"an empty panel", "height=\"600\"", "height=\"0\"", "height is out of range"},
         {"another panel", "\"QmR7View\"", "\"QmR8View\"", "not a QmR7View"},
-        {"an unknown element", "<view (class=\"QmIndicatorLightView\")", "<room $1", "unexpected element <room>"},
+        {"an unknown element", "<view (class=\"QmIndicatorLightView\")", "<room $1",
+         "unexpected element <room>"},
         {"an unknown attribute", "(\"output_level\") x=", "$1 colour=\"red\" x=", "unknown"},
         {"a torn end", "</panel>", "", "line "},
     };

@@ -3,19 +3,16 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <iterator>
+#include <utility>
+#include <variant>
 
 namespace r7::art {
 
-Description described_panel()
+InterfaceDescription described_panel()
 {
-    std::ifstream file(R7_RESOURCES "/QmR7View.xml");
-    const std::string xml{std::istreambuf_iterator<char>(file), {}};
-    std::string error;
-    auto description = parse_description(xml, error);
-    EXPECT_TRUE(description) << error;
-    return description.value_or(Description{});
+    auto read = read_interface_description(R7_RESOURCES "/QmR7View.xml");
+    if (const auto* problem = std::get_if<DescriptionProblem>(&read)) ADD_FAILURE() << problem->text;
+    return read.index() == 0 ? std::get<0>(std::move(read)) : InterfaceDescription{};
 }
 
 } // namespace r7::art

@@ -56,14 +56,13 @@ TEST(Images, ClaimNoPhysicalSize)
 
 TEST(Images, FitTheFramesOfTheirViews)
 {
-    const Description panel = described_panel();
+    const InterfaceDescription panel = described_panel();
     const Picture background = image_named("r7-bg");
-    EXPECT_EQ(background.width, panel.size.width);
-    EXPECT_EQ(background.height, panel.size.height);
+    EXPECT_EQ(background.width, panel.panel_size.width);
+    EXPECT_EQ(background.height, panel.panel_size.height);
     EXPECT_TRUE(std::ranges::all_of(background.pixels, [](const Pixel& p) { return p[3] == 1.0; }));
 
-    const struct
-    {
+    const struct {
         const char *outlet, *image;
     } centred[] = {
         {"envelope_sensitivity", "big-black-rubber-knob"},
@@ -84,8 +83,8 @@ TEST(Images, FitTheFramesOfTheirViews)
         EXPECT_EQ(x, std::floor(x)) << outlet;
         EXPECT_EQ(y, std::floor(y)) << outlet;
     }
-    for (const DescribedView& view : panel.views) {
-        if (view.view_class != "QmR7PushModeKnobView") continue;
+    for (const ViewDescription& view : panel.views) {
+        if (view.class_name != "QmR7PushModeKnobView") continue;
         const std::string& family = kSwitchNames[view.outlet.starts_with("wave_shaper_")];
         for (const std::string& tilt : kTiltNames) {
             const Picture picture = image_named(family + tilt);
@@ -181,7 +180,7 @@ TEST(Images, PatternsTileWithoutASeam)
 
 TEST(Images, CurvesStandOutOfTheGlass)
 {
-    const Description panel = described_panel();
+    const InterfaceDescription panel = described_panel();
     const Picture background = image_named("r7-bg");
     const Rect display = panel.find("post_tone_control_display")->frame;
     const auto column = static_cast<int>(display.x + display.width * 0.5) + 3;

@@ -12,8 +12,7 @@ namespace r7::art {
 /// One pixel: red, green, blue, alpha; straight, 0 to 1, as they stand in the file.
 using Pixel = std::array<double, 4>;
 
-struct Picture
-{
+struct Picture {
     int width = 0;
     int height = 0;
     std::vector<Pixel> pixels; ///< row by row from the top; none in an empty picture
@@ -32,12 +31,7 @@ Picture picture_of(cairo_surface_t* surface);
 /// none.
 Picture image_named(const std::string& name);
 
-enum class Eye
-{
-    grey,
-    protan,
-    deutan
-};
+enum class Eye { grey, protan, deutan };
 
 /// The pixel over the plate's recesses, as an eye of that kind sees it (opaque).
 Pixel seen(const Pixel& pixel, Eye eye);

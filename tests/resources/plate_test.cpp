@@ -12,8 +12,7 @@ namespace r7::art {
 namespace {
 
 // The luminances of a rectangle of the background, in points.
-class Patch final
-{
+class Patch final {
 public:
     Patch(const Picture& background, const Rect& area)
     {
@@ -33,8 +32,8 @@ private:
 TEST(Plate, EveryKnobHasAReadableLabelThatTouchesNoNeighbour)
 {
     const Picture background = image_named("r7-bg");
-    for (const DescribedView& view : described_panel().views) {
-        if (view.view_class != "QmKnobView") continue;
+    for (const ViewDescription& view : described_panel().views) {
+        if (view.class_name != "QmKnobView") continue;
         const Rect room{view.frame.x, view.frame.y - 15.0, view.frame.width, 13.0};
         const Patch patch(background, room);
         EXPECT_GE(contrast(patch.brightest(), patch.median()), 4.5) << view.outlet;
@@ -49,8 +48,8 @@ TEST(Plate, EveryKnobHasAReadableLabelThatTouchesNoNeighbour)
 TEST(Plate, TheScaleOfAKnobHasItsGapAtTheBottom)
 {
     const Picture background = image_named("r7-bg");
-    for (const DescribedView& view : described_panel().views) {
-        if (view.view_class != "QmKnobView") continue;
+    for (const ViewDescription& view : described_panel().views) {
+        if (view.class_name != "QmKnobView") continue;
         const double x = view.frame.x + view.frame.width * 0.5, half = view.frame.width * 0.5;
         const auto strip = [&](double from_middle, double y) {
             return Patch(background, {x + from_middle - 2.0, y, 4.0, half * 0.3}).brightest();
@@ -66,7 +65,7 @@ TEST(Plate, TheScaleOfAKnobHasItsGapAtTheBottom)
 // round a component the other way.
 TEST(Plate, CommittedImagesAreUpToDate)
 {
-    const Description panel = described_panel();
+    const InterfaceDescription panel = described_panel();
     for (const ImageRow& row : all_images(panel)) {
         const Canvas canvas = drawn(row, 1);
         const Picture fresh = picture_of(cairo_get_target(canvas.context()));

@@ -5,6 +5,7 @@
 
 #include <filesystem>
 #include <string>
+#include <string_view>
 #include <variant>
 #include <vector>
 
@@ -14,7 +15,7 @@ namespace r7 {
 struct ViewDescription {
     std::string class_name;
     std::string outlet;
-    Rect frame; ///< in the panel's coordinates, finite, not empty
+    Rect frame;                 ///< in the panel's coordinates, finite, not empty
     bool starts_hidden = false; ///< and so in no place of the panel: a window of its own will show it
 };
 
@@ -22,6 +23,9 @@ struct ViewDescription {
 struct InterfaceDescription {
     Size panel_size;                    ///< finite, above 0
     std::vector<ViewDescription> views; ///< bottom to top, each outlet at most once
+
+    /// The view of an outlet, or none.
+    const ViewDescription* find(std::string_view outlet) const;
 };
 
 /// Why a description cannot be used: one line, with the place where there is one.
@@ -36,11 +40,9 @@ inline constexpr double kMostDescribedPoints = 4096.0;
 ///
 ///     <panel class="QmR7View" width="960" height="600">
 ///       <view class="QmKnobView" outlet="delay_depth_knob" x="24" y="8" width="64" height="64" hidden="no"/>
-///       <place outlet="..." x="..." y="..." width="..." height="..."/>
 ///     </panel>
 ///
-/// A `place` keeps room for something that is drawn around and not loaded; it is checked like a view and left
-/// out. Anything else, a missing or doubled attribute, a doubled outlet or a frame that is not finite is a
+/// Anything else, a missing or doubled attribute, a doubled outlet or a frame that is not finite is a
 /// problem. Whether the classes and outlets exist is the loader's question. Never throws on the file's
 /// account.
 std::variant<InterfaceDescription, DescriptionProblem>

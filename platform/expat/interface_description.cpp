@@ -1,5 +1,5 @@
 // Reading the interface description with Expat.
-#include "host/interface_description.h"
+#include "platform/interface_description.h"
 
 #include <expat.h>
 
@@ -50,8 +50,8 @@ public:
         used_ = 0;
         if (depth_ == 1 && element == "panel")
             read_panel();
-        else if (depth_ == 2 && (element == "view" || element == "place"))
-            read_view(element == "view");
+        else if (depth_ == 2 && element == "view")
+            read_view();
         else
             fail("unexpected element <" + std::string(element) + ">");
         if (problem.empty() && used_ != attributes_.size())
@@ -102,23 +102,20 @@ private:
         description.panel_size = {extent("width"), extent("height")};
     }
 
-    void read_view(bool is_loaded)
+    void read_view()
     {
         ViewDescription view;
-        if (is_loaded) view.class_name = text("class");
+        view.class_name = text("class");
         view.outlet = text("outlet");
         view.frame = {number("x"), number("y"), extent("width"), extent("height")};
         const std::string_view hidden = optional_text("hidden").value_or("no");
         if (hidden != "yes" && hidden != "no") fail("hidden is neither yes nor no");
         view.starts_hidden = hidden == "yes";
-        if (std::ranges::find(seen_, view.outlet) != seen_.end())
-            fail("outlet " + view.outlet + " stands twice");
-        seen_.push_back(view.outlet);
-        if (is_loaded) description.views.push_back(std::move(view));
+        if (description.find(view.outlet)) fail("outlet " + view.outlet + " stands twice");
+        description.views.push_back(std::move(view));
     }
 
     XML_Parser parser_;
-    std::vector<std::string> seen_;
     std::span<const Attribute> attributes_;
     std::size_t used_ = 0;
     int depth_ = 0;
@@ -137,6 +134,12 @@ void XMLCALL on_end(void* reader, const XML_Char*)
 }
 
 } // namespace
+
+const ViewDescription* InterfaceDescription::find(std::string_view outlet) const
+{
+    const auto view = std::ranges::find(views, outlet, &ViewDescription::outlet);
+    return view == views.end() ? nullptr : &*view;
+}
 
 std::variant<InterfaceDescription, DescriptionProblem>
 read_interface_description(const std::filesystem::path& path)
