@@ -87,7 +87,8 @@ std::span<const PixelRect> BackBuffer::repaint(Window& window)
 {
     impl_->changed.clear();
     const PixelTransform to_pixels = impl_->to_pixels();
-    for (const Rect& rect : window.take_dirty_region().rects()) {
+    const DirtyRegion dirty = window.take_dirty_region();
+    for (const Rect& rect : dirty.rects()) {
         const PixelRect pixels = intersection(rounded_outward(to_pixels(rect)), impl_->bounds());
         if (pixels.is_empty()) continue;
         const Rect covered = to_pixels.to_points(pixels);
