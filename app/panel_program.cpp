@@ -1,0 +1,83 @@
+// `r7`: the panel in a window.
+#include "app/panel_program.h"
+
+#include "app/resources.h"
+#include "app/stop_signals.h"
+#include "app/transcript.h"
+#include "host/view_factory.h"
+#include "platform/run_loop.h"
+#include "platform/x11/x11_window.h"
+#include "unit/embedded_unit.h"
+
+#include <csignal>
+#include <cstdio>
+
+namespace r7 {
+
+namespace {
+
+const char* reason(X11OpenStatus status)
+{
+    switch (status) {
+    case X11OpenStatus::open:
+        break;
+    case X11OpenStatus::no_display:
+        return "there is no display, or it lets nobody in";
+    case X11OpenStatus::no_usable_visual:
+        return "the display has no pixels of 32 bits in this machine's order";
+    case X11OpenStatus::unusable_parent:
+        return "the window around is gone";
+    case X11OpenStatus::too_large:
+        return "the window would be too large for the display";
+    }
+    return "";
+}
+
+ExitStatus no_display(const char* why)
+{
+    std::fprintf(stderr, "r7: %s\n", why);
+    return ExitStatus::no_display;
+}
+
+} // namespace
+
+ExitStatus show_panel(const WindowOptions& options, const std::filesystem::path& resources)
+{
+    const SteadyClock clock;
+    RunLoop loop(clock);
+    Transcript transcript(stdout);
+    const auto unit = EmbeddedUnit::create(options.trace ? &transcript : nullptr);
+    const auto panel = QmR7ViewFactory(std::make_shared<const Bundle>(resources))
+                           .uiViewForAudioUnit_withSize(unit->handle(), {});
+    if (!panel) return no_resources(resources);
+
+    bool open = true;
+    bool lost = false;
+    X11WindowOptions wanted{.size = panel->bounds().size(), .title = "R7", .class_name = "r7"};
+    wanted.scale = options.scale.value_or(0.0);
+    wanted.close_requested = [&open] { open = false; };
+    wanted.connection_lost = [&open, &lost] {
+        open = false;
+        lost = true;
+    };
+    // A display that goes away shows in what it answers, and a reader of the trace in the file's state.
+    std::signal(SIGPIPE, SIG_IGN);
+    const auto [window, status] = X11Window::open(std::move(wanted));
+    if (!window) return no_display(reason(status));
+    window->window().set_content_view(panel);
+    loop.add(window);
+    const auto signals = std::make_shared<StopSignals>([&open] { open = false; });
+    loop.add(signals);
+
+    if (options.trace) {
+        std::setvbuf(stdout, nullptr, _IOLBF, BUFSIZ);
+        transcript.begin(*panel);
+    }
+    while (open && std::ferror(stdout) == 0) {
+        loop.turn(std::nullopt);
+        transcript.note_overlay();
+    }
+    return lost ? no_display("the display was lost") : ExitStatus::done;
+}
+
+} // namespace r7
