@@ -3,22 +3,17 @@
 // On a Mac these are the system's. Elsewhere toolbox/ implements them in process, with this contract:
 //
 // - Only AUParameterSet and AUEventListenerNotify announce. An announcement reaches every listener that has
-// asked for
-//   this type of event from this parameter or property of this unit, except the one that is named as its
-//   sender.
+//   asked for this type of event from this parameter or property of this unit, except the one that is named
+//   as its sender.
 // - It is delivered on the listener's run loop, one notification interval after it was made or at the first
-// turn
-//   from then on; never in a modal loop, which it waits out.
+//   turn from then on; never in a modal loop, which it waits out.
 // - What is announced again before it is delivered is delivered once, in the place of the first time, with
-// the
-//   parameter's value at the moment of delivery. So no listener hears of one thing twice within an interval,
-//   and of everything in the end.
-// - Everything but making a listener may be called from any thread. Announcing neither allocates nor waits
-// for
-//   anything but another thread's look at a list.
-// - A handle is never given out twice. One whose unit or listener has gone, or that is null where a unit or
-// listener
-//   is needed, gives kAudio_ParamError, and nothing happens.
+//   the parameter's value at the moment of delivery. So no listener hears of one thing twice within an
+//   interval, and of everything in the end.
+// - All but making a listener may be done on any thread. Announcing does not allocate, and waits for nothing
+//   but another thread's look at a list.
+// - A handle is never given out twice. One whose unit or listener has gone, or that is null where one is
+//   needed, gives kAudio_ParamError, and nothing happens.
 #pragma once
 
 #if defined(__APPLE__)
@@ -120,8 +115,7 @@ OSStatus AudioUnitSetProperty(AudioUnit inUnit, AudioUnitPropertyID inID, AudioU
 /// default mode, the only one there is.
 ///
 /// @param inNotificationInterval   in seconds, at most a day; kept in whole microseconds, at least one
-/// @param inValueChangeGranularity  not looked at: whatever is announced before a delivery is delivered as
-/// one
+/// @param inValueChangeGranularity  not looked at: a delivery is for all announcements before it
 OSStatus AUEventListenerCreate(AUEventListenerProc inProc, void* inUserData, CFRunLoopRef inRunLoop,
                                CFStringRef inRunLoopMode, Float32 inNotificationInterval,
                                Float32 inValueChangeGranularity, AUEventListenerRef* outListener);

@@ -19,8 +19,8 @@ namespace {
 
 thread_local RunLoop* innermost = nullptr;
 
-// What poll() takes: whole milliseconds, rounded up lest a loop wakes too early and turns for nothing; -1 for
-// no end.
+// What poll() takes: whole milliseconds, rounded up lest a loop wakes early and turns for nothing; -1: no
+// end.
 int poll_timeout(std::optional<Time> sleep)
 {
     if (!sleep) return -1;

@@ -54,7 +54,7 @@ public:
     /// the loop (RunLoopWaker).
     virtual std::optional<Time> due() const { return std::nullopt; }
     /// Does what there is to do. May add, remove and destroy sources, itself included, and run the loop in
-    /// another mode.
+    /// another mode, which serves this source, too, if it has work left.
     virtual void serve() = 0;
     /// The loop is going, and its clock may follow.
     virtual void run_loop_ended() {}

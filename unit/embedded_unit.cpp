@@ -47,7 +47,7 @@ OSStatus status_of(const AudioUnitProperty& property)
 
 std::shared_ptr<EmbeddedUnit> EmbeddedUnit::create(UnitObserver* observer)
 {
-    const std::shared_ptr<EmbeddedUnit> unit(new EmbeddedUnit(observer));
+    std::shared_ptr<EmbeddedUnit> unit(new EmbeddedUnit(observer));
     unit->registration_.emplace(unit);
     return unit;
 }

@@ -1,5 +1,4 @@
-// The audio unit that the program and the tests bind the panel to: it keeps what it is given and plays
-// nothing.
+// The audio unit that the program and the tests bind the panel to: it keeps what it is given, and is silent.
 #pragma once
 
 #include "platform/toolbox/audio_unit_instance.h"
@@ -27,14 +26,12 @@ public:
 /// One of the two waveshapers; its value is the number that users know it by.
 enum class Stage { one = 1, two = 2 };
 
-/// 54 parameters, two curves and two input levels, in the global scope's element 0; other places give a
-/// status.
+/// 54 parameters, two curves and two input levels, in the global scope's element 0 and nowhere else.
 ///
 /// Parameters are kept as given, unclamped, and records too, whatever they say. May be used from any thread.
 class EmbeddedUnit final : public AudioUnitInstance {
 public:
-    /// The property of a stage's curve, which others read and write, and of its input level, which they only
-    /// read.
+    /// The properties of a stage: its curve, for others to read and write, and its input level, to read.
     static constexpr AudioUnitPropertyID curve_property(Stage stage) { return 80109 + number(stage); }
     static constexpr AudioUnitPropertyID level_property(Stage stage) { return 80111 + number(stage); }
 

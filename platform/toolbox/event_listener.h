@@ -47,8 +47,7 @@ private:
     const Time interval_;
     const std::shared_ptr<const RunLoopWaker> waker_;
 
-    // A call is made with this held, so that disposing on another thread waits for it, and on the same does
-    // not.
+    // Held during a call, so that disposing waits for it on another thread, and does not on the same.
     std::recursive_mutex calling_;
     bool disposed_ = false;
 

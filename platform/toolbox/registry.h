@@ -1,5 +1,4 @@
-// The units and listeners of the process by their handles: the one state that everybody in the process
-// shares.
+// The units and listeners of the process by their handles: the one state that all of the process shares.
 #pragma once
 
 #include "platform/audio_toolbox.h"
@@ -23,7 +22,7 @@ public:
     Handle add(Pointer object)
     {
         const std::lock_guard lock(mutex_);
-        const auto handle = reinterpret_cast<Handle>(++last_handle_);
+        const auto handle = reinterpret_cast<Handle>(++last_handle_); // NOLINT(performance-no-int-to-ptr)
         objects_.emplace(handle, std::move(object));
         return handle;
     }

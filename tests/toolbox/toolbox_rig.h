@@ -6,14 +6,13 @@
 #include <charconv>
 #include <functional>
 #include <string>
+#include <utility>
 
 namespace r7 {
 
-inline AudioUnitEvent event_of(AudioUnitEventType type, AudioUnit unit, UInt32 id, UInt32 scope = 0,
-                               UInt32 element = 0)
+inline AudioUnitEvent event_of(UInt32 type, AudioUnit unit, UInt32 id, UInt32 scope = 0, UInt32 element = 0)
 {
-    if (type == kAudioUnitEvent_PropertyChange) return {type, {.mProperty = {unit, id, scope, element}}};
-    return {type, {.mParameter = {unit, id, scope, element}}};
+    return {AudioUnitEventType{type}, {.mParameter = {unit, id, scope, element}}};
 }
 
 inline AudioUnitEvent value_change(AudioUnit unit, UInt32 id)
@@ -23,7 +22,7 @@ inline AudioUnitEvent value_change(AudioUnit unit, UInt32 id)
 
 inline AudioUnitEvent property_change(AudioUnit unit, UInt32 id)
 {
-    return event_of(kAudioUnitEvent_PropertyChange, unit, id);
+    return {kAudioUnitEvent_PropertyChange, {.mProperty = {unit, id, kAudioUnitScope_Global, 0}}};
 }
 
 inline OSStatus set(AUEventListenerRef sender, AudioUnit unit, UInt32 id, Float32 value)
@@ -37,13 +36,12 @@ inline OSStatus notify(AUEventListenerRef sender, const AudioUnitEvent& event)
     return AUEventListenerNotify(sender, nullptr, &event);
 }
 
-/// A listener on the current run loop that writes `ID=VALUE ` for each change of a parameter and `pID=VALUE `
-/// for other events.
+/// A listener on the current run loop that writes `TYPE:ID=VALUE ` for each event.
 struct RecordingListener {
     explicit RecordingListener(Float32 interval = 0.05F)
     {
-        AUEventListenerCreate(&RecordingListener::called, this, CFRunLoopGetCurrent(), kCFRunLoopDefaultMode,
-                              interval, interval, &handle);
+        AUEventListenerCreate(&called, this, CFRunLoopGetCurrent(), kCFRunLoopDefaultMode, interval, interval,
+                              &handle);
     }
     ~RecordingListener() { AUListenerDispose(handle); }
     RecordingListener(const RecordingListener&) = delete;
@@ -53,30 +51,21 @@ struct RecordingListener {
     {
         return AUEventListenerAddEventType(handle, this, &event);
     }
-    std::string take_heard()
-    {
-        std::string text;
-        text.swap(heard);
-        return text;
-    }
+    std::string take_heard() { return std::exchange(heard, {}); }
 
-    static void called(void* self, void* object, const AudioUnitEvent* event, UInt64 time, Float32 value)
+    static void called(void* self, void*, const AudioUnitEvent* event, UInt64, Float32 value)
     {
         auto& listener = *static_cast<RecordingListener*>(self);
         char number[32];
         const auto end = std::to_chars(number, number + sizeof number, value).ptr;
-        if (event->mEventType != kAudioUnitEvent_ParameterValueChange) listener.heard += 'p';
-        listener.heard += std::to_string(event->mArgument.mParameter.mParameterID) + '=';
-        listener.heard.append(number, end) += ' ';
-        listener.last_object = object;
-        listener.last_time = time;
+        listener.heard += std::to_string(event->mEventType) + ':' +
+                          std::to_string(event->mArgument.mParameter.mParameterID) + '=' +
+                          std::string(number, end) + ' ';
         if (listener.during_call) listener.during_call();
     }
 
     AUEventListenerRef handle = nullptr;
     std::string heard;
-    void* last_object = nullptr;
-    UInt64 last_time = 0;
     std::function<void()> during_call;
 };
 

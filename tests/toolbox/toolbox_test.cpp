@@ -16,10 +16,7 @@ using namespace std::chrono_literals;
 struct ToolboxTest : testing::Test, UnitObserver {
     void parameter_set(AudioUnitParameterID, float) override {}
     void property_written(AudioUnitPropertyID, UInt32) override {}
-    void will_deliver(const AudioUnitEvent&, float) override
-    {
-        if (before_delivery) before_delivery();
-    }
+    void will_deliver(const AudioUnitEvent&, float) override { before_delivery ? before_delivery() : void(); }
     void wait(Time duration) { loop.advance(clock, duration); }
 
     std::function<void()> before_delivery;
@@ -33,10 +30,9 @@ TEST_F(ToolboxTest, EveryoneWhoAskedIsToldExceptTheSender)
 {
     RecordingListener a, b;
     for (RecordingListener* listener : {&a, &b}) {
-        EXPECT_EQ(listener->ask_for(value_change(au, 1)), noErr);
-        EXPECT_EQ(listener->ask_for(value_change(au, 1)), noErr); // asking twice is asking once
-        EXPECT_EQ(listener->ask_for(property_change(au, 1)), noErr);
-        EXPECT_EQ(listener->ask_for(property_change(au, 80110)), noErr);
+        listener->ask_for(value_change(au, 1));
+        listener->ask_for(value_change(au, 1)); // asking twice is asking once
+        listener->ask_for(property_change(au, 1));
     }
     const auto expect_heard = [&](const char* by_a, const char* by_b) {
         wait(50ms);
@@ -44,45 +40,28 @@ TEST_F(ToolboxTest, EveryoneWhoAskedIsToldExceptTheSender)
         EXPECT_EQ(b.take_heard(), by_b);
     };
     EXPECT_EQ(set(a.handle, au, 1, 0.25F), noErr);
-    expect_heard("", "1=0.25 ");
-    EXPECT_EQ(set(nullptr, au, 1, 0.5F), noErr);
-    expect_heard("1=0.5 ", "1=0.5 ");
+    expect_heard("", "0:1=0.25 ");
+    set(nullptr, au, 1, 0.5F);
+    expect_heard("0:1=0.5 ", "0:1=0.5 ");
     EXPECT_EQ(notify(b.handle, value_change(au, 1)), noErr);
-    expect_heard("1=0.5 ", "");
-    EXPECT_EQ(notify(nullptr, property_change(au, 1)), noErr);
-    expect_heard("p1=0 ", "p1=0 ");
+    expect_heard("0:1=0.5 ", "");
+    notify(nullptr, property_change(au, 1));
+    expect_heard("3:1=0 ", "3:1=0 ");
 
     // The own set takes nobody else's announcement back; what arrives is the value of that moment.
     set(nullptr, au, 1, 0.75F);
     set(a.handle, au, 1, 1.0F);
-    expect_heard("1=1 ", "1=1 ");
+    expect_heard("0:1=1 ", "0:1=1 ");
 
-    // Neither setting a property nor a set that the unit refuses announces anything.
-    const auto record = unit->record(Stage::one);
-    EXPECT_EQ(AudioUnitSetProperty(au, 80110, 0, 0, &record, sizeof record), noErr);
-    EXPECT_EQ(a.ask_for(value_change(au, 54)), noErr);
+    // What differs in one respect was not asked for, and what the unit refuses is not announced.
+    const auto other = EmbeddedUnit::create();
+    for (const AudioUnitEvent& event :
+         {value_change(other->handle(), 1), event_of(1, au, 1), value_change(au, 2), event_of(0, au, 1, 1, 0),
+          event_of(0, au, 1, 0, 1)})
+        EXPECT_EQ(notify(nullptr, event), noErr);
+    a.ask_for(value_change(au, 54));
     EXPECT_EQ(set(nullptr, au, 54, 1.0F), kAudioUnitErr_InvalidParameter);
     expect_heard("", "");
-}
-
-TEST_F(ToolboxTest, OnlyWhatWasAskedForIsHeard)
-{
-    RecordingListener listener;
-    const auto other = EmbeddedUnit::create();
-    constexpr auto change = kAudioUnitEvent_ParameterValueChange;
-    listener.ask_for(event_of(change, au, 1, 0, 0));
-    for (const AudioUnitEvent& event :
-         {event_of(change, other->handle(), 1), event_of(kAudioUnitEvent_PropertyChange, au, 1),
-          event_of(kAudioUnitEvent_BeginParameterChangeGesture, au, 1), event_of(change, au, 2),
-          event_of(change, au, 1, 1, 0), event_of(change, au, 1, 0, 1)})
-        EXPECT_EQ(notify(nullptr, event), noErr);
-    wait(1s);
-    EXPECT_EQ(listener.heard, "");
-    set(nullptr, au, 1, 1.0F);
-    wait(1s);
-    EXPECT_EQ(listener.heard, "1=1 ");
-    EXPECT_EQ(listener.last_object, &listener);
-    EXPECT_EQ(Time(listener.last_time), 1s);
 }
 
 TEST_F(ToolboxTest, AnnouncementsWaitForTheIntervalAndMergeInTheOrderOfTheirFirst)
@@ -100,17 +79,17 @@ TEST_F(ToolboxTest, AnnouncementsWaitForTheIntervalAndMergeInTheOrderOfTheirFirs
     wait(20ms);
     set(nullptr, au, 3, 0.5F);
     for (const Float32 value : {1.0F, 2.0F, 3.0F}) set(nullptr, au, 2, value);
-    expect_heard_after(30ms, "2=3 1=0.25 ");
+    expect_heard_after(30ms, "0:2=3 0:1=0.25 ");
     set(nullptr, au, 2, 4.0F);
-    expect_heard_after(20ms, "3=0.5 ");
-    expect_heard_after(30ms, "2=4 ");
+    expect_heard_after(20ms, "0:3=0.5 ");
+    expect_heard_after(30ms, "0:2=4 ");
 
     // A loop that is late delivers everything at its first turn; a modal one is late for as long as it runs.
     for (const UInt32 id : {3u, 1u, 2u}) set(nullptr, au, id, 0.0F);
     loop.advance(clock, 1s, RunLoopMode::modal);
     EXPECT_EQ(listener.take_heard(), "");
     loop.turn(0s);
-    EXPECT_EQ(listener.take_heard(), "3=0 1=0 2=0 ");
+    EXPECT_EQ(listener.take_heard(), "0:3=0 0:1=0 0:2=0 ");
 }
 
 TEST_F(ToolboxTest, AnAnnouncementWakesTheLoopToLearnWhenItIsDue)
@@ -136,7 +115,8 @@ TEST_F(ToolboxTest, WhatACallAnnouncesIsHeardAnIntervalLater)
         };
         set(nullptr, au, 1, 0.0F);
         set(nullptr, au, 2, 0.0F);
-        for (const char* heard : {"1=0 2=1 ", "1=2 2=3 "}) { // the second was still to be heard, and merged
+        for (const char* heard :
+             {"0:1=0 0:2=1 ", "0:1=2 0:2=3 "}) { // the second was still to come, and merged
             clock.move_to(clock.now() + 50ms);
             loop.turn(0s);
             EXPECT_EQ(listener.take_heard(), heard) << interval;
@@ -155,10 +135,9 @@ TEST_F(ToolboxTest, HandlesThatStandForNothingGiveAStatus)
         EXPECT_EQ(AUListenerDispose(gone), kAudio_ParamError);
         EXPECT_EQ(AUEventListenerAddEventType(gone, nullptr, &event), kAudio_ParamError);
         EXPECT_EQ(send_event(gone, event, 0.0F), kAudio_ParamError);
-        if (!gone) continue; // as a sender it is nobody, which is meant
-        EXPECT_EQ(notify(gone, event), kAudio_ParamError);
-        EXPECT_EQ(set(gone, au, 1, 5.0F), kAudio_ParamError);
     }
+    EXPECT_EQ(notify(gone_listener, event), kAudio_ParamError);
+    EXPECT_EQ(set(gone_listener, au, 1, 5.0F), kAudio_ParamError);
     EXPECT_NE(unit->parameter(1), 5.0F);
     Float32 value = 0;
     UInt32 size = sizeof value;
@@ -172,35 +151,30 @@ TEST_F(ToolboxTest, HandlesThatStandForNothingGiveAStatus)
         EXPECT_EQ(AudioUnitGetProperty(gone, 80112, 0, 0, &value, &size), kAudio_ParamError);
         EXPECT_EQ(AudioUnitSetProperty(gone, 80112, 0, 0, &value, size), kAudio_ParamError);
     }
-    // A run loop that is not the thread's own is as good as gone, and so is any mode but the one.
-    const auto create = [&](CFRunLoopRef run_loop, CFStringRef mode, Float32 interval) {
-        AUEventListenerRef made = nullptr;
-        return AUEventListenerCreate(&RecordingListener::called, nullptr, run_loop, mode, interval, 0.05F,
-                                     &made);
-    };
-    const auto current = CFRunLoopGetCurrent();
-    for (const Float32 interval : {-0.1F, 86'401.0F, INFINITY, NAN})
-        EXPECT_EQ(create(current, kCFRunLoopDefaultMode, interval), kAudio_ParamError);
-    EXPECT_EQ(create(current, nullptr, 0.05F), kAudio_ParamError);
+    // A run loop that is not the thread's own is as good as gone.
+    const auto outer = CFRunLoopGetCurrent();
     const RunLoop inner(clock);
-    EXPECT_EQ(create(current, kCFRunLoopDefaultMode, 0.05F), kAudio_ParamError);
+    for (const auto& [run_loop, interval] : {std::pair{outer, 0.05F}, {CFRunLoopGetCurrent(), NAN}}) {
+        AUEventListenerRef made = nullptr;
+        EXPECT_EQ(AUEventListenerCreate(&RecordingListener::called, nullptr, run_loop, kCFRunLoopDefaultMode,
+                                        interval, interval, &made),
+                  kAudio_ParamError);
+    }
 }
 
 TEST_F(ToolboxTest, SendingAnEventCallsOneListenerAtOnce)
 {
     RecordingListener listener, other;
     listener.ask_for(value_change(au, 1));
-    other.ask_for(value_change(au, 1));
     set(nullptr, au, 1, 0.5F);
     std::string heard_before;
     before_delivery = [&] { heard_before += '<' + listener.heard + '>'; };
     EXPECT_EQ(send_event(listener.handle, value_change(au, 1), 0.25F), noErr);
-    EXPECT_EQ(send_event(listener.handle, event_of(AudioUnitEventType(4), au, 3), 0.0F), noErr);
-    EXPECT_EQ(heard_before, "<><1=0.25 >") << "the unit is told before each delivery";
-    EXPECT_EQ(unit->parameter(1), 0.5F);
+    EXPECT_EQ(send_event(listener.handle, event_of(4, au, 3), 0.0F), noErr);
+    EXPECT_EQ(heard_before, "<><0:1=0.25 >") << "the unit is told before each delivery";
     wait(50ms);
-    EXPECT_EQ(listener.heard, "1=0.25 p3=0 1=0.5 ") << "what was announced stays so";
-    EXPECT_EQ(other.heard, "1=0.5 ");
+    EXPECT_EQ(listener.heard, "0:1=0.25 4:3=0 0:1=0.5 ") << "what was announced stays so";
+    EXPECT_EQ(other.heard, "");
 }
 
 // Whether it goes before the delivery, when that is about to happen or in its middle: nothing more is heard.
@@ -223,27 +197,21 @@ TEST_F(ToolboxTest, WhoHasGoneNeitherHearsNorIsHeardOf)
             set(nullptr, au, 1, 1.0F);
             wait(1s);
             const bool is_told = when == "during" || (when == "about to" && who == "unit");
-            EXPECT_EQ(listener.heard, is_told ? "1=0.5 " : "") << who << ' ' << when;
+            EXPECT_EQ(listener.heard, is_told ? "0:1=0.5 " : "") << who << ' ' << when;
         }
     }
-}
-
-TEST_F(ToolboxTest, AListenerWhoseLoopHasGoneHearsNothingAndNeedsNoClock)
-{
-    std::optional<RecordingListener> listener;
+    unit = EmbeddedUnit::create();
+    au = unit->handle();
+    std::optional<RecordingListener> without_loop;
     {
         const SimulatedClock short_lived;
         const RunLoop inner(short_lived);
-        listener.emplace();
-        listener->ask_for(value_change(au, 1));
-        listener->ask_for(value_change(au, 2));
-        set(nullptr, au, 1, 0.5F);
+        without_loop.emplace();
+        without_loop->ask_for(value_change(au, 1));
     }
-    EXPECT_EQ(set(nullptr, au, 2, 0.5F), noErr);
+    EXPECT_EQ(notify(nullptr, value_change(au, 1)), noErr);
     wait(1s);
-    EXPECT_EQ(listener->heard, "");
-    EXPECT_EQ(send_event(listener->handle, value_change(au, 1), 1.0F), noErr);
-    EXPECT_EQ(listener->heard, "1=1 ") << "this needs no loop";
+    EXPECT_EQ(without_loop->heard, "");
 }
 
 } // namespace
