@@ -16,159 +16,126 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr Time kTooLong = 20s; // a sleep that nobody ends
-
 struct Source final : RunLoopSource {
     int file_descriptor() const override { return file; }
     bool is_pending() override { return pending; }
     std::optional<Time> due() const override { return when; }
-    void serve() override { ++served, work ? work() : void(); }
-    void run_loop_ended() override { ended = true; }
+    void serve() override { work(); }
+    void run_loop_ended() override { work(); }
 
     int file = -1;
     bool pending = false;
     std::optional<Time> when;
     std::function<void()> work;
-    int served = 0;
-    bool ended = false;
 };
 
 struct RunLoopTest : testing::Test {
-    std::shared_ptr<Source> add(RunLoop::Modes modes = RunLoop::Modes::all)
+    // A source that writes its letter when it is served.
+    std::shared_ptr<Source> add(char letter, RunLoop::Modes modes = RunLoop::Modes::all)
     {
         auto source = std::make_shared<Source>();
+        source->work = [this, letter] { served += letter; };
         loop.add(source, modes);
         return source;
     }
 
+    std::string served;
     SimulatedClock clock;
     RunLoop loop{clock};
 };
 
-TEST_F(RunLoopTest, ServesWhatHasWorkOnceInTheOrderOfAdding)
+TEST_F(RunLoopTest, ServesWhatHasWorkOnceATurnInTheOrderOfAdding)
 {
-    std::string order;
-    const auto late = add(), readable = add(), pending = add(), idle = add(), due = add();
+    const auto late = add('l'), readable = add('r'), idle = add('i'), due = add('d'), pending = add('p');
     clock.move_to(5s);
     clock.move_to(4s); // never back
-    // Each keeps its work: nobody has a second turn before all others had their first.
     late->when = 5s + 1ns;
     due->when = 5s;
     pending->pending = true;
     readable->file = eventfd(1, 0);
-    readable->work = [&] { order += 'r'; };
-    pending->work = [&] { order += 'p'; };
-    due->work = [&] { order += 'd'; };
     loop.turn(0s);
-    loop.add(readable);
+    loop.add(readable); // comes last now
     loop.turn(0s);
-    EXPECT_EQ(order, "rpdpdr");
-    EXPECT_EQ(late->served + idle->served, 0);
+    EXPECT_EQ(served, "rdpdpr") << "each keeps its work, and has one turn like all others";
     close(readable->file);
 }
 
-TEST_F(RunLoopTest, SourcesAddRemoveAndDestroyThemselvesAndOthers)
+TEST_F(RunLoopTest, SourcesAddRemoveAndDestroyThemselvesAndOthersAndTurnAModalLoop)
 {
-    auto first = add(), second = add(), third = add(), added = add();
+    auto first = add('1'), removed = add('2'), destroyed = add('3'), added = add('4');
+    const auto standard = add('s', RunLoop::Modes::standard_only), every = add('e');
     loop.remove(*added);
-    for (const auto& source : {first, second, third, added}) source->pending = true;
-    const std::weak_ptr<Source> destroyed[] = {first, second};
-    first->work = [&] {
-        loop.remove(*third);
+    for (const auto& source : {first, removed, destroyed, added, standard, every}) source->pending = true;
+    first->work = [&, self = std::weak_ptr(first)] {
+        loop.remove(*first);
+        loop.remove(*removed);
         loop.add(added);
-        second.reset();
+        destroyed.reset();
         first.reset();
-    };
-    loop.turn(0s);
-    EXPECT_TRUE(destroyed[0].expired() && destroyed[1].expired());
-    EXPECT_EQ(added->served, 0) << "added in this turn, it waits for the next";
-    loop.turn(0s);
-    EXPECT_EQ(added->served, 1);
-    EXPECT_EQ(third->served, 0);
-}
-
-TEST_F(RunLoopTest, AModalLoopInsideATurnLeavesStandardSourcesToTheOuterOne)
-{
-    const auto outer = add(), standard = add(RunLoop::Modes::standard_only), every = add();
-    outer->pending = standard->pending = every->pending = true;
-    outer->work = [&] {
-        outer->pending = false;
+        EXPECT_FALSE(self.expired()) << "it lives until it returns";
         loop.turn(0s, RunLoopMode::modal);
-        EXPECT_EQ(standard->served, 0);
+        served += ' ';
     };
     loop.turn(0s);
-    EXPECT_EQ(standard->served, 1);
-    EXPECT_EQ(every->served, 2);
+    EXPECT_EQ(served, "e4 se") << "what is added waits for the next turn, which was the modal one";
 }
 
 TEST_F(RunLoopTest, AdvancingStopsAtEveryDueTimeOnTheWay)
 {
-    std::string seen;
-    const auto a = add(), b = add();
+    const auto a = add('a'), b = add('b');
     a->when = 30ms;
-    b->when = 10ms;
+    b->when = 10ms; // stays due, and holds nobody up
     a->work = [&] {
-        seen += 'a' + std::to_string(clock.now() / 1ms);
+        served += 'a' + std::to_string(clock.now() / 1ms);
         *a->when += 30ms;
     };
-    b->work = [&] { seen += 'b' + std::to_string(clock.now() / 1ms); }; // stays due, and holds nobody up
     loop.advance(clock, 70ms);
-    EXPECT_EQ(seen, "b10a30b30a60b60b70");
-}
-
-TEST_F(RunLoopTest, StoppingEndsTheInnermostRunOrTheNext)
-{
-    const auto source = add();
-    source->pending = true;
-    source->work = [&] { source->served == 1 ? loop.run() : loop.stop(); };
-    loop.run();
-    loop.stop();
-    loop.run();
-    EXPECT_EQ(source->served, 3);
+    EXPECT_EQ(served, "ba30ba60bb");
 }
 
 TEST_F(RunLoopTest, TheCurrentLoopIsTheLastOneMadeThatHasNotGone)
 {
     auto second = std::make_unique<RunLoop>(clock);
     const RunLoop third(clock);
-    const auto source = std::make_shared<Source>();
+    const auto source = add('!');
     second->add(source);
     second.reset();
-    EXPECT_TRUE(source->ended);
+    EXPECT_EQ(served, "!") << "told that its loop goes";
     EXPECT_EQ(&RunLoop::current(), &third);
     std::thread([&] { EXPECT_NE(&RunLoop::current(), &third); }).join();
 }
 
 TEST(RunLoopSleep, LastsUntilThereIsWorkOrAWake)
 {
+    constexpr Time too_long = 20s;
     const SteadyClock clock;
     RunLoop loop(clock);
+    const Time start = clock.now();
     const auto source = std::make_shared<Source>();
     loop.add(source);
-    const Time start = clock.now();
     source->when = start + 2500us;
-    loop.turn(kTooLong);
-    EXPECT_EQ(source->served, 1) << "woken early, a loop turns for nothing";
-
-    source->when.reset();
-    source->file = eventfd(0, 0);
-    std::thread writer([&] { eventfd_write(source->file, 1); });
-    loop.turn(kTooLong);
-    EXPECT_EQ(source->served, 2);
-    writer.join();
-    close(std::exchange(source->file, -1));
-
-    source->pending = true;
-    source->work = [&] {
-        source->pending = false;
+    source->work = [&] { // a wake while sources are served is for the next sleep
+        source->when.reset();
         std::thread([waker = loop.waker()] { waker->wake(); }).join();
     };
-    loop.turn(kTooLong);
-    loop.turn(kTooLong); // ended by the wake that came while sources were served
+    loop.turn(too_long);
+    EXPECT_FALSE(source->when) << "woken early, a loop turns for nothing";
+    loop.turn(too_long);
     const Time woken = clock.now();
     loop.turn(2ms);
     EXPECT_GE(clock.now() - woken, 2ms) << "one wake ends one sleep";
-    EXPECT_LT(clock.now() - start, kTooLong);
+    source->file = eventfd(0, 0);
+    std::thread writer([&] { eventfd_write(source->file, 1); });
+    loop.turn(too_long);
+    writer.join();
+    close(std::exchange(source->file, -1));
+    int turns = 0;
+    source->pending = true;
+    source->work = [&] { ++turns, loop.stop(); };
+    loop.run();
+    loop.run();
+    EXPECT_EQ(turns, 2);
+    EXPECT_LT(clock.now() - start, too_long);
 }
 
 } // namespace

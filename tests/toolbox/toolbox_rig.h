@@ -6,23 +6,12 @@
 #include <charconv>
 #include <functional>
 #include <string>
-#include <utility>
 
 namespace r7 {
 
 inline AudioUnitEvent event_of(UInt32 type, AudioUnit unit, UInt32 id, UInt32 scope = 0, UInt32 element = 0)
 {
     return {AudioUnitEventType{type}, {.mParameter = {unit, id, scope, element}}};
-}
-
-inline AudioUnitEvent value_change(AudioUnit unit, UInt32 id)
-{
-    return event_of(kAudioUnitEvent_ParameterValueChange, unit, id);
-}
-
-inline AudioUnitEvent property_change(AudioUnit unit, UInt32 id)
-{
-    return {kAudioUnitEvent_PropertyChange, {.mProperty = {unit, id, kAudioUnitScope_Global, 0}}};
 }
 
 inline OSStatus set(AUEventListenerRef sender, AudioUnit unit, UInt32 id, Float32 value)
@@ -51,7 +40,6 @@ struct RecordingListener {
     {
         return AUEventListenerAddEventType(handle, this, &event);
     }
-    std::string take_heard() { return std::exchange(heard, {}); }
 
     static void called(void* self, void*, const AudioUnitEvent* event, UInt64, Float32 value)
     {

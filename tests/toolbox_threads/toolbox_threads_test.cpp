@@ -15,36 +15,33 @@ using namespace std::chrono_literals;
 
 TEST(ToolboxThreads, LastValuesArriveWhileOthersListenAndTheUnitGoes)
 {
-    constexpr int rounds = 1000;
     auto unit = EmbeddedUnit::create();
     const AudioUnit handle = unit->handle();
     RecordingListener listener(0.0F);
-    for (UInt32 id = 0; id < kParameters.size(); ++id) listener.ask_for(value_change(handle, id));
+    for (const ParameterRow& row : kParameters) listener.ask_for(event_of(0, handle, row.id));
     std::atomic<bool> over = false;
     std::thread host([&] {
-        for (int round = 1; round <= rounds; ++round) {
+        for (int round = 1; round <= 1000; ++round) {
             for (const ParameterRow& row : kParameters) unit->automate(row.id, static_cast<float>(round));
-            unit->take_level(Stage::one, round);
             unit->take_curve(Stage::one, {});
         }
         over = true;
     });
     std::thread second_panel([&] {
-        float value = 0;
-        while (AudioUnitGetParameter(handle, 0, 0, 0, &value) == noErr) {
+        while (set(nullptr, handle, 0, 1000.0F) == noErr) {
             RecordingListener other(0.0F);
-            other.ask_for(value_change(handle, 0));
+            other.ask_for(event_of(0, handle, 0));
             RunLoop::current().turn(1us);
         }
     });
     while (!over) {
         RunLoop::current().turn(0s);
-        EXPECT_LE(unit->record(Stage::one).needs_update, rounds);
+        EXPECT_LE(unit->record(Stage::one).needs_update, 1000);
     }
     host.join();
     for (int turn = 0; turn < 3; ++turn) RunLoop::current().turn(1ms);
     for (const ParameterRow& row : kParameters)
-        EXPECT_NE(listener.heard.rfind("0:" + std::to_string(row.id) + "=1000 "), std::string::npos)
+        EXPECT_NE(listener.heard.find("0:" + std::to_string(row.id) + "=1000 "), std::string::npos)
             << row.name;
     unit.reset();
     second_panel.join();
@@ -56,7 +53,7 @@ TEST(ToolboxThreads, DisposingOnAnotherThreadWaitsForTheCallThatIsUnderWay)
     bool was_disposed_meanwhile = false;
     const auto unit = EmbeddedUnit::create();
     RecordingListener listener(0.0F);
-    listener.ask_for(value_change(unit->handle(), 0));
+    listener.ask_for(event_of(0, unit->handle(), 0));
     listener.during_call = [&] {
         has_begun = true;
         const SteadyClock clock;
