@@ -2,8 +2,7 @@
 //   1. curves become lines, in points;
 //   2. points that are not finite are left out, the others become pixels;
 //   3. vertices that nobody can see are dropped;
-//   4. what is far from the part that is rendered is cut away: Cairo loses lines longer than about 30,000
-//   pixels;
+//   4. what is far from the part that is rendered is cut away: Cairo loses lines of more than 30,000 pixels;
 //   5. Cairo renders the rest. Its matrix stays the identity, for a matrix that is not finite would end it.
 #include "platform/cairo/coverage_mask.h"
 
@@ -47,8 +46,7 @@ void add_polyline(cairo_t* cairo, const std::vector<Point>& line, const Box& box
 bool is_ring(const std::vector<Point>& line)
 {
     constexpr double kSamePoint = 1.0 / 256.0;
-    constexpr double kSameDirection =
-        0.7; // cosine of an angle wider than between the lines of a small circle
+    constexpr double kSameDirection = 0.7; // a cosine: the lines of a small circle meet at wide angles
     const Point start = line.front(), end = line.back();
     if (std::hypot(end.x - start.x, end.y - start.y) > kSamePoint) return false;
     const Point out{line[1].x - start.x, line[1].y - start.y};

@@ -3,9 +3,13 @@
 
 #include "platform/cairo/cairo_graphics.h"
 
+#include <gtest/gtest.h>
+
+#include <algorithm>
 #include <cstdint>
 #include <functional>
 #include <ostream>
+#include <string>
 #include <vector>
 
 namespace r7 {
@@ -28,50 +32,53 @@ class Canvas final {
 public:
     using Painter = std::function<void(Graphics&)>;
 
-    Canvas(double width, double height, double scale = 1.0)
+    Canvas(double width, double height, double scale, const Painter& paint)
         : picture_(make_picture({width, height}, scale)), graphics_(picture_, scale)
-    {
-    }
-    Canvas(double width, double height, const Painter& paint) : Canvas(width, height) { paint(graphics_); }
-    Canvas(double width, double height, double scale, const Painter& paint) : Canvas(width, height, scale)
     {
         paint(graphics_);
     }
+    Canvas(double width, double height, const Painter& paint) : Canvas(width, height, 1.0, paint) {}
 
     int width() const { return cairo_image_surface_get_width(picture_.get()); }
     int height() const { return cairo_image_surface_get_height(picture_.get()); }
-    CairoGraphics& graphics() { return graphics_; }
 
     /// The pixel in column `x` from the left and row `y` from the bottom.
     Pixel at(int x, int y) const
     {
-        const std::uint32_t argb = word(x, height() - 1 - y);
+        cairo_surface_flush(picture_.get());
+        const unsigned char* row = cairo_image_surface_get_data(picture_.get()) +
+                                   cairo_image_surface_get_stride(picture_.get()) * (height() - 1 - y);
+        const std::uint32_t argb = reinterpret_cast<const std::uint32_t*>(row)[x];
         const auto byte = [&](int shift) { return static_cast<int>(argb >> shift & 0xFF); };
         return {byte(16), byte(8), byte(0), byte(24)};
     }
+    void write_png(const std::string& path) const
+    {
+        cairo_surface_write_to_png(picture_.get(), path.c_str());
+    }
     int alpha(int x, int y) const { return at(x, y).alpha; }
 
-    /// All pixels, rows from the top.
-    std::vector<std::uint32_t> pixels() const
-    {
-        std::vector<std::uint32_t> all;
-        for (int y = 0; y < height(); ++y)
-            for (int x = 0; x < width(); ++x) all.push_back(word(x, y));
-        return all;
-    }
-
 private:
-    std::uint32_t word(int x, int y_from_top) const
-    {
-        cairo_surface_flush(picture_.get());
-        const unsigned char* row =
-            cairo_image_surface_get_data(picture_.get()) +
-            static_cast<std::ptrdiff_t>(y_from_top) * cairo_image_surface_get_stride(picture_.get());
-        return reinterpret_cast<const std::uint32_t*>(row)[x];
-    }
-
     SurfaceRef picture_;
     CairoGraphics graphics_;
 };
+
+/// A colour, and where in points it is expected.
+struct Lit {
+    Rect where;
+    Pixel color;
+};
+
+/// Expects every pixel to have the colour of the first of these rectangles around it, or else to be clear.
+inline void expect_lit(const Canvas& canvas, const std::vector<Lit>& lit, double scale = 1.0)
+{
+    for (int y = 0; y < canvas.height(); ++y)
+        for (int x = 0; x < canvas.width(); ++x) {
+            const Point point{(x + 0.5) / scale, (y + 0.5) / scale};
+            const auto found =
+                std::ranges::find_if(lit, [&](const Lit& l) { return contains(l.where, point); });
+            ASSERT_EQ(canvas.at(x, y), found == lit.end() ? Pixel{} : found->color) << "at " << x << ' ' << y;
+        }
+}
 
 } // namespace r7
