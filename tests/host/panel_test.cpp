@@ -3,11 +3,9 @@
 
 #include "host/panel_tables.h"
 #include "host/parameter_values.h"
-#include "platform/log.h"
 
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <limits>
 #include <random>
 
@@ -18,14 +16,6 @@ constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
 constexpr float kInfinity = std::numeric_limits<float>::infinity();
 
 using Sets = std::vector<std::pair<AudioUnitParameterID, float>>;
-
-AudioUnitEvent event_of(UInt32 type, UInt32 id)
-{
-    AudioUnitEvent event{};
-    event.mEventType = static_cast<AudioUnitEventType>(type);
-    event.mArgument.mParameter.mParameterID = id;
-    return event;
-}
 
 TEST(Panel, ShowsTheUnitsValuesOnceItIsBound)
 {
@@ -159,55 +149,6 @@ TEST(Panel, LampsRoundHalvesToEvenAndModesTruncate)
         EXPECT_EQ(lamp_for_value(row.value), row.lamp) << row.value;
         EXPECT_EQ(mode_position_for_value(row.value), row.mode) << row.value;
     }
-}
-
-TEST(Panel, TheDelayLampIsOnAboveZeroOnly)
-{
-    PanelRig rig;
-    for (const auto& [value, on] : {std::pair{0.001f, true},
-                                    {-0.5f, false},
-                                    {1e-45f, true},
-                                    {0.0f, false},
-                                    {kInfinity, true},
-                                    {kNaN, false}}) {
-        rig.unit->automate(30, value);
-        rig.deliver();
-        EXPECT_EQ(rig.panel->delay_on_indicator_light->indicator_state(), on) << value;
-    }
-    EXPECT_TRUE(std::isnan(rig.panel->delay_depth_knob->current_value()));
-}
-
-TEST(Panel, AnyValueInAnyParameterLeavesAPanelThatShowsTheNextOne)
-{
-    PanelRig rig;
-    for (const float value : {kNaN, kInfinity, -kInfinity, 1e38f, -1e38f}) {
-        for (AudioUnitParameterID id = 0; id < kParameterCount; ++id) rig.unit->automate(id, value);
-        rig.deliver();
-        for (const KnobRow& row : kKnobRows) PanelRig::drag(*(rig.panel.get()->*row.field), 1, 0);
-        for (const SwitchRow& row : kSwitchRows) PanelRig::press(*(rig.panel.get()->*row.field), 0.25);
-    }
-    for (const ParameterRow& row : kParameters) rig.unit->automate(row.id, row.start);
-    rig.deliver();
-    for (const KnobRow& row : kKnobRows)
-        EXPECT_EQ((rig.panel.get()->*row.field)->current_value(), kParameters[row.id].start) << row.id;
-    for (const SwitchRow& row : kSwitchRows)
-        EXPECT_EQ((rig.panel.get()->*row.field)->current_menu_selection(), 0) << row.id;
-    EXPECT_EQ(rig.panel->end_vowel_light->indicator_state(), 1);
-}
-
-TEST(Panel, UnknownEventTypesAreLoggedAndUnknownParametersAreNot)
-{
-    PanelRig rig;
-    std::vector<std::string> heard;
-    const LogCapture capture([&](std::string_view text) { heard.emplace_back(text); });
-    for (const UInt32 id : {53u, 54u, 4294967295u})
-        rig.panel->_eventListener_event_value(nullptr, event_of(0, id), 1.0f);
-    rig.panel->_eventListener_event_value(nullptr, event_of(3, 4711), 0.0f);
-    EXPECT_TRUE(heard.empty());
-    for (const UInt32 type : {1u, 2u, 4u})
-        rig.panel->_eventListener_event_value(nullptr, event_of(type, 30), 1.0f);
-    EXPECT_EQ(heard, (std::vector<std::string>(3, "Error: Got an update for an unknown parameter.")));
-    EXPECT_EQ(rig.panel->delay_depth_knob->current_value(), 0.0);
 }
 
 TEST(Panel, RebindingListensToTheNewUnitOnly)

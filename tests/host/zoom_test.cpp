@@ -80,27 +80,6 @@ TEST_F(Zoom, AWindowThatIsAskedForATitleBarComesOutBorderlessAllTheSame)
     EXPECT_TRUE(overlay.canBecomeKeyWindow());
 }
 
-TEST_F(Zoom, OnlyOneEditorIsOpenAndTheStatesKeepTheirOddCorners)
-{
-    double_click(*panel->wave_shaper_two_display);
-    double_click(*panel->wave_shaper_one_display);
-    EXPECT_EQ(panel->wave_shaper_state(), 2);
-    double_click(*panel->pre_tone_control_display);
-    EXPECT_EQ(panel->tone_control_state(), 1) << "the state follows the click although nothing opens";
-    EXPECT_TRUE(panel->pre_tone_control->is_hidden());
-    close_stage();
-    EXPECT_EQ(panel->tone_control_state(), 1);
-    EXPECT_FALSE(panel->overlay());
-
-    double_click(*panel->pre_tone_control_display);
-    double_click(*panel->post_tone_control_display);
-    EXPECT_EQ(panel->tone_control_state(), 2);
-    EXPECT_EQ(panel->overlay()->content_view(), panel->pre_tone_control.get());
-    close_tone();
-    EXPECT_EQ(panel->tone_control_state(), 0);
-    EXPECT_FALSE(panel->overlay());
-}
-
 TEST_F(Zoom, APanelOutsideEveryWindowOpensNothing)
 {
     window->set_content_view(nullptr);
@@ -151,23 +130,6 @@ TEST_F(Zoom, ADraggedCurveIsWrittenShownAndReadBackTheSame)
     EXPECT_EQ(observer.writes.size(), 2u) << "an edit while no stage is zoomed is thrown away";
 }
 
-TEST_F(Zoom, ACurveReachesTheEditorOnlyWhileItsStageIsShown)
-{
-    double_click(*panel->wave_shaper_two_display);
-    unit->take_curve(Stage::one, bent_curve());
-    deliver();
-    const auto& editor = *panel->zoomed_wave_shaper_display;
-    EXPECT_EQ(editor.response_for_in_amplitude(0.6f), 0.6f);
-    EXPECT_EQ(panel->wave_shaper_one_display->response_for_in_amplitude(0.6f), 0.7f);
-    EXPECT_EQ(panel->wave_shaper_two_display->response_for_in_amplitude(0.6f), 0.6f);
-    unit->take_curve(Stage::two, bent_curve());
-    deliver();
-    EXPECT_EQ(editor.response_for_in_amplitude(0.6f), 0.7f);
-    close_stage();
-    double_click(*panel->wave_shaper_one_display);
-    EXPECT_EQ(editor.response_for_in_amplitude(0.6f), 0.7f) << "the editor opens with the stage's own curve";
-}
-
 TEST_F(Zoom, LevelsAreReadWhenAnnouncedAndNotBefore)
 {
     unit->take_level(Stage::two, 0.75);
@@ -177,44 +139,6 @@ TEST_F(Zoom, LevelsAreReadWhenAnnouncedAndNotBefore)
     deliver();
     EXPECT_EQ(panel->wave_shaper_two_display->shown_input_level(), 0.75);
     EXPECT_EQ(panel->wave_shaper_one_display->shown_input_level(), 0.0);
-}
-
-TEST_F(Zoom, GainsReachTheDisplayAsTheyCameAndTheEditorClamped)
-{
-    double_click(*panel->wave_shaper_one_display);
-    const auto& editor = *panel->zoomed_wave_shaper_display;
-    unit->automate(36, 25.0f); // pre-gain one
-    unit->automate(37, -3.0f); // post-gain one
-    unit->automate(39, 7.0f);  // pre-gain two
-    deliver();
-    EXPECT_EQ(panel->wave_shaper_one_display->sine_pregain(), 25.0f);
-    EXPECT_EQ(editor.sine_pregain(), 10.0f);
-    EXPECT_EQ(panel->wave_shaper_one_display->sine_postgain(), -3.0f);
-    EXPECT_EQ(editor.sine_postgain(), 0.0f);
-    EXPECT_EQ(panel->wave_shaper_two_display->sine_pregain(), 7.0f);
-
-    drag(*panel->wave_shaper_one_a, -100, 0);
-    EXPECT_EQ(editor.sine_pregain(), 5.0f);
-    EXPECT_EQ(panel->wave_shaper_one_display->sine_pregain(), 5.0f);
-    drag(*panel->wave_shaper_two_a, -20, 0);
-    EXPECT_EQ(editor.sine_pregain(), 5.0f);
-    EXPECT_EQ(panel->wave_shaper_two_display->sine_pregain(), 6.0f);
-    close_stage();
-    double_click(*panel->wave_shaper_two_display);
-    EXPECT_EQ(editor.sine_pregain(), 6.0f) << "the editor opens with the stage's own gains";
-}
-
-TEST_F(Zoom, ModeLettersFollowSwitchAndAutomation)
-{
-    press(*panel->wave_shaper_one_e, 0.25);
-    EXPECT_EQ(panel->wave_shaper_one_display->shown_mode(), "E");
-    EXPECT_EQ(panel->wave_shaper_two_display->shown_mode(), "-");
-    for (const auto& [value, letter] :
-         {std::pair{5.9f, "E"}, {2.5f, "B"}, {6.0f, "B"}, {-1.0f, "B"}, {-0.5f, "-"}}) {
-        unit->automate(52, value);
-        deliver();
-        EXPECT_EQ(panel->wave_shaper_two_display->shown_mode(), letter) << value;
-    }
 }
 
 TEST_F(Zoom, AFailedReadChangesNothing)
