@@ -25,8 +25,12 @@ install_packages() {
         as_root=(sudo -n)
     fi
     echo "Installing $missing" >&2
-    "${as_root[@]}" apt-get update -qq >&2
+    local output
     # shellcheck disable=SC2086
-    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
-        apt-get install -y -qq --no-install-recommends $missing >&2
+    if ! output=$({ "${as_root[@]}" apt-get update -qq &&
+        "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+            apt-get install -y -qq --no-install-recommends $missing; } 2>&1); then
+        echo "$output" >&2
+        return 1
+    fi
 }
