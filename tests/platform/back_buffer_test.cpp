@@ -77,8 +77,8 @@ TEST_F(BackBufferTest, PaintsWhatWasAskedForOnBlack)
 
     show([](Graphics& g) { g.fill_rect({0, 0, 120, 80}, kHalfWhite.get(), Compositing::source_over); });
     window->take_dirty_region();
-    window->set_needs_display_in(
-        {1, 2 + 1e-9, 2, 1}); // from 1.5 to 4.5 pixels, from 3 to 4.5 from the bottom
+    // From 1.5 to 4.5 pixels, and from 3 to 4.5 from the bottom.
+    window->set_needs_display_in({1, 2 - 1e-9, 2, 1});
     const auto part = picture.repaint(*window);
     ASSERT_EQ(part.size(), 1u);
     EXPECT_EQ(part[0], (PixelRect{1, 115, 4, 2})) << "whole pixels, and none for a rounding error";
