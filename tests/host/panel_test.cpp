@@ -77,25 +77,6 @@ TEST(Panel, EachKnobSetsItsParameterAndShowsItsAutomation)
     }
 }
 
-TEST(Panel, EachSwitchSetsItsParameterAndLightsItsLamp)
-{
-    PanelRig rig;
-    for (const SwitchRow& row : kSwitchRows) {
-        SCOPED_TRACE(row.id);
-        QmR7PushModeKnobView& push = *(rig.panel.get()->*row.field);
-        for (std::int32_t position = 1; position <= row.positions; ++position) {
-            PanelRig::press(push, 0.75);
-            push.mouseUp({});
-            EXPECT_EQ(rig.unit->parameter(row.id), static_cast<float>(position % row.positions));
-        }
-        PanelRig::press(push, 0.25);
-        EXPECT_EQ(rig.unit->parameter(row.id), static_cast<float>(row.positions - 1));
-    }
-    EXPECT_EQ(rig.panel->start_vowel_light->indicator_state(), 10);
-    EXPECT_EQ(rig.panel->end_vowel_light->indicator_state(), 10);
-    EXPECT_EQ(rig.panel->wah_mode_light->indicator_state(), 5);
-}
-
 TEST(Panel, TheWahLampIsSetBeforeTheParameterAndTheVowelLampsAfterTheirs)
 {
     // What the lamps show at the moment at which the unit is told.

@@ -47,7 +47,7 @@ TEST_F(Zoom, AnEditorOpensOverThePanelsUpperLeftCornerAndClosesWithIt)
     EXPECT_EQ(overlay.content_view(), panel->zoomed_wave_shaper_display.get());
     EXPECT_EQ(overlay.parent_window(), window.get());
     EXPECT_EQ(overlay.style(), WindowStyle::borderless);
-    EXPECT_EQ(overlay.creation(), WindowCreation::immediate);
+    EXPECT_EQ(overlay.creation(), WindowCreation::immediate) << "although the panel asks for a later one";
     EXPECT_EQ(overlay.level, WindowLevel::floating);
     EXPECT_FALSE(overlay.is_opaque);
     EXPECT_TRUE(overlay.is_key_window());
@@ -68,16 +68,6 @@ TEST_F(Zoom, AnEditorOpensOverThePanelsUpperLeftCornerAndClosesWithIt)
     panel.reset();
     window->set_content_view(nullptr);
     EXPECT_TRUE(window->child_windows().empty());
-}
-
-TEST_F(Zoom, AWindowThatIsAskedForATitleBarComesOutBorderlessAllTheSame)
-{
-    const QM_R7_Overlay_Window overlay({}, WindowStyle::titled, WindowBacking::retained,
-                                       WindowCreation::deferred);
-    EXPECT_EQ(overlay.style(), WindowStyle::borderless);
-    EXPECT_EQ(overlay.backing(), WindowBacking::buffered);
-    EXPECT_EQ(overlay.creation(), WindowCreation::immediate);
-    EXPECT_TRUE(overlay.canBecomeKeyWindow());
 }
 
 TEST_F(Zoom, APanelOutsideEveryWindowOpensNothing)
