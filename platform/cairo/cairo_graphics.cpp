@@ -153,12 +153,17 @@ void CairoGraphics::draw_image_in_rect(const Image* image, const Rect& rect, Com
 {
     if (!image || rect.is_empty() || !is_finite(rect) || !std::isfinite(fraction)) return;
     const Box box = to_pixels()(rect);
-    if (visible(rounded_outward(box)).is_empty()) return;
+    const PixelRect touched = rounded_outward(box);
+    if (visible(touched).is_empty()) return;
     const CairoImage& drawn = CairoImage::of(*image);
     const Size size = drawn.size();
     const auto raster = drawn.raster(std::max(box.width() / size.width, box.height() / size.height));
-    const PatternRef source = r7::source_of(drawn, raster, box, CAIRO_EXTEND_PAD);
-    paint_box(box, source.get(), how, std::clamp(fraction, 0.0, 1.0));
+    // An image that is not stretched fades by itself into pixels that it covers in part, which saves a mask.
+    const auto is_unstretched = [](double side, int pixels) { return std::abs(side - pixels) < 1e-3; };
+    const bool fades = how == Compositing::source_over && is_unstretched(box.width(), raster.width()) &&
+                       is_unstretched(box.height(), raster.height());
+    const PatternRef source = r7::source_of(drawn, raster, box, fades ? CAIRO_EXTEND_NONE : CAIRO_EXTEND_PAD);
+    paint_box(fades ? box_of(touched) : box, source.get(), how, std::clamp(fraction, 0.0, 1.0));
 }
 
 void CairoGraphics::draw_text(std::string_view utf8, const Rect& rect, const TextAttributes& attributes)

@@ -115,6 +115,7 @@ TEST_F(BackBufferTest, PartialRepaintsAddUpToAFullOne)
         const Rect place{number(-800, 0), number(-600, 0), number(20, 1500), number(20, 900)};
         return std::make_shared<Painting>(frame, [=, this](Graphics& g) {
             if (otherwise) g.move_origin_to({3.3, 4.7});
+            g.draw_image(image.get(), place.origin(), how, 1.0);
             g.draw_image_in_rect(image.get(), place, how, 0.7);
             g.fill(path, second.get());
             g.stroke(path, first.get());
