@@ -55,8 +55,11 @@ std::variant<std::shared_ptr<QmR7View>, DescriptionProblem> load_panel(std::shar
         const ViewRef view = made->make(row.frame);
         if (!connect(*panel, *outlet, view))
             return DescriptionProblem{"outlet " + row.outlet + " takes no " + row.class_name};
-        view->set_hidden(row.starts_hidden);
-        panel->add_subview(view);
+        // What starts hidden is shown in a window of its own, when it is.
+        if (row.starts_hidden)
+            view->set_hidden(true);
+        else
+            panel->add_subview(view);
     }
     for (const OutletRow& outlet : outlet_rows())
         if (!view_in(*panel, outlet))

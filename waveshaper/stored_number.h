@@ -10,6 +10,7 @@ namespace r7 {
 template <class Number>
 bool store_number(Number& field, Number value)
 {
+    // NOLINTNEXTLINE(bugprone-suspicious-memory-comparison): the bits are what is asked about
     if (std::memcmp(&field, &value, sizeof value) == 0) return false;
     field = value;
     return true;
