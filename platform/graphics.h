@@ -28,6 +28,8 @@ public:
 
     /// Moves the origin of all later coordinates, until the enclosing SavedState ends.
     virtual void move_origin_to(Point origin) = 0;
+    /// Patterns repeat from where the origin is now, until the enclosing SavedState ends.
+    virtual void anchor_patterns() {}
     /// Narrows all later painting to `rect`, until the enclosing SavedState ends.
     virtual void clip_to(const Rect& rect) = 0;
 

@@ -210,6 +210,7 @@ void Window::paint(Graphics& graphics, const Rect& dirty)
     const Rect bounds{0.0, 0.0, frame_.width, frame_.height};
     const Graphics::SavedState state(graphics);
     graphics.clip_to(bounds);
+    graphics.anchor_patterns();
     graphics.fill_rect(bounds, background_color.get(), Compositing::source_over);
     if (content_view_) content_view_->paint_tree(graphics, dirty);
     for (Window* child : children_) {

@@ -25,6 +25,7 @@ public:
     void begin(const PixelRect& part);
 
     void move_origin_to(Point origin) override;
+    void anchor_patterns() override { state_.pattern_origin = state_.origin; }
     void clip_to(const Rect& rect) override;
     void fill(const Path& path, const Color* color) override;
     void stroke(const Path& path, const Color* color) override;

@@ -41,6 +41,11 @@ void Recording::move_origin_to(Point origin)
     add([=](Graphics& graphics) { graphics.move_origin_to(origin); });
 }
 
+void Recording::anchor_patterns()
+{
+    add([](Graphics& graphics) { graphics.anchor_patterns(); });
+}
+
 void Recording::clip_to(const Rect& rect)
 {
     add([=](Graphics& graphics) { graphics.clip_to(rect); });

@@ -18,6 +18,7 @@ public:
     void replay_on(Graphics& graphics) const;
 
     void move_origin_to(Point origin) override;
+    void anchor_patterns() override;
     void clip_to(const Rect& rect) override;
     void fill(const Path& path, const Color* color) override;
     void stroke(const Path& path, const Color* color) override;

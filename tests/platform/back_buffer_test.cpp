@@ -57,18 +57,19 @@ struct BackBufferTest : testing::Test {
     std::ptrdiff_t files() const { return std::distance(std::filesystem::directory_iterator(folder), {}); }
 };
 
+std::uint32_t word(const BackBuffer& picture, int x, int y_from_top)
+{
+    const std::size_t at =
+        static_cast<std::size_t>(y_from_top) * picture.stride() + 4 * static_cast<std::size_t>(x);
+    std::uint32_t argb = 0;
+    std::memcpy(&argb, &picture.pixels()[at], 4);
+    return argb;
+}
+
 TEST_F(BackBufferTest, PaintsWhatWasAskedForOnBlack)
 {
     BackBuffer picture({120, 80}, 1.5);
-    const auto word = [&](int x, int y) {
-        std::uint32_t argb = 0;
-        std::memcpy(&argb,
-                    &picture.pixels()[static_cast<std::size_t>(y) * picture.stride() +
-                                      4 * static_cast<std::size_t>(x)],
-                    4);
-        return argb;
-    };
-    EXPECT_EQ(word(179, 119), 0xFF000000u);
+    EXPECT_EQ(word(picture, 179, 119), 0xFF000000u);
     show([](Graphics& g) { g.fill_rect({0, 0, 120, 80}, kRed.get(), Compositing::copy); });
     const auto all = picture.repaint(*window);
     ASSERT_EQ(all.size(), 1u);
@@ -84,7 +85,27 @@ TEST_F(BackBufferTest, PaintsWhatWasAskedForOnBlack)
     EXPECT_EQ(part[0], (PixelRect{1, 115, 4, 2})) << "whole pixels, and none for a rounding error";
     for (int x = 0; x < 8; ++x)
         for (int y = 112; y < 120; ++y)
-            EXPECT_EQ(word(x, y), intersection(part[0], {x, y, 1, 1}).is_empty() ? 0xFFFF0000u : 0xFF808080u);
+            EXPECT_EQ(word(picture, x, y),
+                      intersection(part[0], {x, y, 1, 1}).is_empty() ? 0xFFFF0000u : 0xFF808080u);
+}
+
+TEST_F(BackBufferTest, PatternsRepeatFromTheirWindowsCorner)
+{
+    const ColorRef pattern = Color::pattern(Image::painted({4, 4}, [](Graphics& g) {
+        g.fill_rect({0, 0, 1, 1}, kRed.get(), Compositing::copy);
+    }));
+    const auto paint = [=](Graphics& g) { g.fill_rect({0, 0, 9, 9}, pattern.get(), Compositing::copy); };
+    const auto content = std::make_shared<View>(Rect{0, 0, 120, 80});
+    content->add_subview(std::make_shared<Painting>(Rect{2, 0, 9, 9}, paint));
+    window->set_content_view(content);
+    const auto child = std::make_shared<Window>(Rect{21, 0, 9, 9});
+    child->set_content_view(std::make_shared<Painting>(Rect{0, 0, 9, 9}, paint));
+    window->add_child_window(*child);
+    BackBuffer picture({120, 80}, 1.0);
+    picture.repaint(*window);
+    for (int x = 0; x < 40; ++x)
+        EXPECT_EQ(word(picture, x, 79) == 0xFFFF0000u, x == 4 || x == 8 || x == 21 || x == 25 || x == 29)
+            << x;
 }
 
 TEST_F(BackBufferTest, PartialRepaintsAddUpToAFullOne)
