@@ -83,8 +83,7 @@ TEST(ToneViews, RedrawForEveryChangeAndForNothingElse)
     }
     EXPECT_TRUE(redraws(&Tone::setLevelMid, kNaN));
     EXPECT_FALSE(redraws(&Tone::setLevelMid, kNaN));
-    for (const auto width : {&Tone::setSlopeLow, &Tone::setQMid, &Tone::setSlopeHigh})
-        for (const float refused : {0.001f, 0.0f, -1.0f, kNaN}) EXPECT_FALSE(redraws(width, refused));
+    for (const float refused : {0.001f, 0.0f, -1.0f, kNaN}) EXPECT_FALSE(redraws(&Tone::setQMid, refused));
     EXPECT_TRUE(redraws(&Tone::setQMid, 0.0011f));
 }
 

@@ -7,7 +7,6 @@
 #include "tonecontrol/parametric_eq_view.h"
 
 #include <limits>
-#include <memory>
 
 namespace r7 {
 
@@ -47,8 +46,7 @@ template <typename V>
 struct ToneRig {
     std::shared_ptr<Window> window = std::make_shared<Window>(Rect{0, 0, 660, 430});
     std::shared_ptr<V> view = std::make_shared<V>(Rect{0, 0, 660, 430});
-    std::shared_ptr<Counter> updates = std::make_shared<Counter>();
-    std::shared_ptr<Counter> toggles = std::make_shared<Counter>();
+    std::shared_ptr<Counter> updates = std::make_shared<Counter>(), toggles = std::make_shared<Counter>();
     RecordingGraphics graphics;
 
     ToneRig()
