@@ -7,9 +7,7 @@
 #include <unistd.h>
 
 #include <functional>
-#include <string>
 #include <thread>
-#include <utility>
 
 namespace r7 {
 namespace {
@@ -17,31 +15,31 @@ namespace {
 using namespace std::chrono_literals;
 
 struct Source final : RunLoopSource {
+    int file = -1;
+    bool pending = false;
+    std::optional<Time> when;
+    std::function<void()> work;
+
     int file_descriptor() const override { return file; }
     bool is_pending() override { return pending; }
     std::optional<Time> due() const override { return when; }
     void serve() override { work(); }
     void run_loop_ended() override { work(); }
-
-    int file = -1;
-    bool pending = false;
-    std::optional<Time> when;
-    std::function<void()> work;
 };
 
 struct RunLoopTest : testing::Test {
+    std::string served;
+    SimulatedClock clock;
+    RunLoop loop{clock};
+
     // A source that writes its letter when it is served.
     std::shared_ptr<Source> add(char letter, RunLoop::Modes modes = RunLoop::Modes::all)
     {
-        auto source = std::make_shared<Source>();
+        const auto source = std::make_shared<Source>();
         source->work = [this, letter] { served += letter; };
         loop.add(source, modes);
         return source;
     }
-
-    std::string served;
-    SimulatedClock clock;
-    RunLoop loop{clock};
 };
 
 TEST_F(RunLoopTest, ServesWhatHasWorkOnceATurnInTheOrderOfAdding)
@@ -64,8 +62,8 @@ TEST_F(RunLoopTest, SourcesAddRemoveAndDestroyThemselvesAndOthersAndTurnAModalLo
 {
     auto first = add('1'), removed = add('2'), destroyed = add('3'), added = add('4');
     const auto standard = add('s', RunLoop::Modes::standard_only), every = add('e');
-    loop.remove(*added);
     for (const auto& source : {first, removed, destroyed, added, standard, every}) source->pending = true;
+    loop.remove(*added);
     first->work = [&, self = std::weak_ptr(first)] {
         loop.remove(*first);
         loop.remove(*removed);
@@ -95,12 +93,12 @@ TEST_F(RunLoopTest, AdvancingStopsAtEveryDueTimeOnTheWay)
 
 TEST_F(RunLoopTest, TheCurrentLoopIsTheLastOneMadeThatHasNotGone)
 {
+    const auto told = add('!');
     auto second = std::make_unique<RunLoop>(clock);
     const RunLoop third(clock);
-    const auto source = add('!');
-    second->add(source);
+    second->add(told);
     second.reset();
-    EXPECT_EQ(served, "!") << "told that its loop goes";
+    EXPECT_EQ(served, "!");
     EXPECT_EQ(&RunLoop::current(), &third);
     std::thread([&] { EXPECT_NE(&RunLoop::current(), &third); }).join();
 }
@@ -124,17 +122,15 @@ TEST(RunLoopSleep, LastsUntilThereIsWorkOrAWake)
     const Time woken = clock.now();
     loop.turn(2ms);
     EXPECT_GE(clock.now() - woken, 2ms) << "one wake ends one sleep";
-    source->file = eventfd(0, 0);
-    std::thread writer([&] { eventfd_write(source->file, 1); });
-    loop.turn(too_long);
-    writer.join();
-    close(std::exchange(source->file, -1));
     int turns = 0;
-    source->pending = true;
+    source->file = eventfd(0, 0);
     source->work = [&] { ++turns, loop.stop(); };
+    std::thread writer([&] { eventfd_write(source->file, 1); });
     loop.run();
     loop.run();
     EXPECT_EQ(turns, 2);
+    writer.join();
+    close(source->file);
     EXPECT_LT(clock.now() - start, too_long);
 }
 
