@@ -5,9 +5,6 @@
 #include "platform/run_loop.h"
 #include "tests/x11/display.h"
 
-#include <gtest/gtest.h>
-
-#include <cstring>
 #include <functional>
 #include <sstream>
 #include <utility>
@@ -24,7 +21,6 @@ public:
     /// What was heard since the last call.
     std::string heard() { return std::exchange(heard_, {}); }
     bool has_heard(std::string_view word) const { return heard_.find(word) != std::string::npos; }
-
     void drawRect(Graphics& graphics, const Rect&) override
     {
         ++paints;
@@ -39,22 +35,15 @@ public:
     void rightMouseDown(const MouseEvent& e) override { note("right down", e); }
     void rightMouseDragged(const MouseEvent& e) override { note("right drag", e); }
     void rightMouseUp(const MouseEvent& e) override { note("right up", e); }
-    void scrollWheel(const ScrollEvent& e) override
-    {
-        MouseEvent as_mouse;
-        as_mouse.location_in_window = e.location_in_window;
-        as_mouse.delta_x = e.delta_x;
-        as_mouse.delta_y = e.delta_y;
-        as_mouse.modifiers = e.modifiers;
-        note("wheel", as_mouse);
-    }
+    void scrollWheel(const ScrollEvent& e) override { note("wheel", e); }
 
 private:
-    void note(std::string_view what, const MouseEvent& e)
+    void note(std::string_view what, const auto& e)
     {
         std::ostringstream line;
         line << what << ' ' << e.location_in_window.x << ',' << e.location_in_window.y << " by " << e.delta_x
-             << ',' << e.delta_y << " x" << e.click_count;
+             << ',' << e.delta_y;
+        if constexpr (requires { e.click_count; }) line << " x" << e.click_count;
         if (e.modifiers != Modifiers::none)
             line << " 0x" << std::hex << static_cast<std::uint32_t>(e.modifiers);
         heard_ += line.str() + '\n';
@@ -87,16 +76,14 @@ struct Shown {
 
     Pixels on_screen(const Display& display) const
     {
-        return display.pixels_of(x11->native_id(), x11->picture().width(), x11->picture().height());
+        return display.pixels_of(x11->native_id(), static_cast<std::uint16_t>(x11->picture().width()),
+                                 static_cast<std::uint16_t>(x11->picture().height()));
     }
     /// What the screen ought to show.
     Pixels painted() const
     {
-        const BackBuffer& picture = x11->picture();
-        Pixels pixels(picture.pixels().size() / 4);
-        std::memcpy(pixels.data(), picture.pixels().data(), picture.pixels().size());
-        for (std::uint32_t& pixel : pixels) pixel &= 0xffffff;
-        return pixels;
+        const auto& bytes = x11->picture().pixels();
+        return pixels_from(bytes.data(), bytes.size() / 4);
     }
 };
 

@@ -1,4 +1,4 @@
-// What the screen shows: the picture, its changed parts alone, and the cursor.
+// A window on a display: opening, embedding and losing it, and what the screen shows of picture and cursor.
 #include "platform/cairo/image_pixels.h"
 #include "tests/x11/rig.h"
 
@@ -7,53 +7,105 @@
 namespace r7::testing_x11 {
 namespace {
 
-constexpr std::uint32_t kScribble = 0x123456;
+struct X11Windows : X11Test {};
 
-struct X11Presentation : X11Test {};
-
-// Whether exactly the pixels inside `part` are the picture's, and all others are the scribble.
-bool only_that_was_sent(const Shown& shown, const Display& display, const PixelRect& part)
+TEST_F(X11Windows, WindowThatCannotBeOpenedSaysWhy)
 {
-    const Pixels screen = shown.on_screen(display), picture = shown.painted();
-    const int width = shown.x11->picture().width();
-    for (std::size_t i = 0; i < picture.size(); ++i) {
-        const int x = static_cast<int>(i) % width, y = static_cast<int>(i) / width;
-        const bool inside = x >= part.x && x < part.x + part.width && y >= part.y && y < part.y + part.height;
-        if (screen[i] != (inside ? picture[i] : kScribble)) return false;
+    const xcb_window_t gone = display.make_window({0, 0, 10, 10});
+    display.destroy(gone);
+    const xcb_window_t unseen = xcb_generate_id(display.get());
+    xcb_create_window(display.get(), 0, unseen, display.root(), 0, 0, 10, 10, 0, XCB_WINDOW_CLASS_INPUT_ONLY,
+                      XCB_COPY_FROM_PARENT, 0, nullptr);
+    display.place(unseen, 0, 0);
+    const struct {
+        X11WindowOptions options;
+        X11OpenStatus status;
+    } kCases[] = {
+        {{.size = {10, 10}, .display = ":no such display"}, X11OpenStatus::no_display},
+        {{.size = {10, 10}, .parent = gone}, X11OpenStatus::unusable_parent},
+        {{.size = {10, 10}, .parent = unseen}, X11OpenStatus::unusable_parent},
+        {{.size = {10, 4000}, .scale = 10.0}, X11OpenStatus::too_large},
+        {{.size = {10, 10}}, X11OpenStatus::open},
+    };
+    for (const auto& [options, status] : kCases) {
+        const auto opened = X11Window::open(options);
+        EXPECT_EQ(opened.status, status);
+        EXPECT_EQ(opened.window != nullptr, status == X11OpenStatus::open);
     }
-    return true;
 }
 
-TEST_F(X11Presentation, OnlyTheChangedPartIsSent)
+TEST_F(X11Windows, ScaleIsTheDesktopsUnlessGiven)
+{
+    display.set_resources("Xft.dpi:\t192\n");
+    EXPECT_EQ(Shown(loop).x11->scale(), 2.0);
+    EXPECT_EQ(Shown(loop, {.scale = 1.0}).x11->scale(), 1.0);
+    display.set_resources("");
+    EXPECT_EQ(Shown(loop).x11->scale(), 1.0);
+}
+
+TEST_F(X11Windows, EmbeddedWindowLeavesFocusAndPixelFormatToItsHostWhoseEndIsToldOnceEvenInMidDrag)
+{
+    const xcb_window_t host = display.make_window({300, 200, 250, 180}, true);
+    const xcb_window_t focus = display.focus();
+    Shown shown(loop, {.parent = host});
+    ASSERT_TRUE(settle(shown));
+    display.move_to(311, 220);
+    display.press(1);
+    display.move_to(315, 220);
+    EXPECT_TRUE(turn_until([&] { return shown.view->has_heard("drag"); }));
+    EXPECT_EQ(display.focus(), focus);
+
+    display.destroy(host);
+    EXPECT_TRUE(turn_until([&] { return shown.lost == 1; }));
+    shown.view->heard();
+    const int paints = shown.view->paints;
+    shown.view->set_needs_display();
+    shown.x11->show_cursor(std::make_shared<Cursor>());
+    EXPECT_FALSE(shown.x11->is_pending());
+    EXPECT_EQ(shown.x11->file_descriptor(), -1);
+    shown.x11->serve();
+    loop.turn(Time{0});
+    EXPECT_EQ(shown.lost, 1);
+    EXPECT_EQ(shown.view->paints, paints);
+    EXPECT_EQ(shown.view->heard(), "");
+}
+
+TEST_F(X11Windows, CloseRequestMayDestroyTheWindow)
+{
+    Shown shown(loop, {.close_requested = [&shown] { shown.x11.reset(); }});
+    ASSERT_TRUE(settle(shown));
+    const std::weak_ptr<X11Window> watched = shown.x11;
+    display.ask_to_close(shown.x11->native_id());
+    EXPECT_TRUE(turn_until([&] { return watched.expired(); }));
+    EXPECT_EQ(shown.view->window(), nullptr);
+}
+
+TEST_F(X11Windows, OnlyTheChangedPartIsSent)
 {
     Shown shown(loop);
     ASSERT_TRUE(settle(shown));
-    display.fill(shown.x11->native_id(), {0, 0, 200, 150}, kScribble);
+    const Pixels before = shown.painted();
     const std::uint64_t sent = shown.x11->bytes_sent();
+    shown.view->mark_x = 100.0; // more than is asked for
     shown.view->set_needs_display_in({5.0, 15.0, 40.0, 10.0});
     shown.view->set_needs_display_in({20.0, 20.0, 5.0, 10.0});
     EXPECT_EQ(shown.x11->bytes_sent(), sent) << "before the turn";
-    EXPECT_TRUE(turn_until([&] { return only_that_was_sent(shown, display, {5, 120, 40, 15}); }));
+    EXPECT_TRUE(
+        turn_until([&] { return shown.on_screen(display) == shown.painted() && shown.painted() != before; }));
     EXPECT_EQ(shown.view->paints, 2);
     EXPECT_EQ(shown.x11->bytes_sent() - sent, sizeof(xcb_put_image_request_t) + std::size_t{4} * 40 * 15);
     EXPECT_FALSE(shown.x11->is_pending());
 }
 
-TEST_F(X11Presentation, UncoveredPartComesFromThePictureWithoutAPaint)
+TEST_F(X11Windows, UncoveredPartNeedsNoPaintAndAHiddenWindowSendsNothingUntilItIsSeen)
 {
     Shown shown(loop);
     ASSERT_TRUE(settle(shown));
-    const xcb_window_t cover = display.make_window({280, 180, 60, 70});
-    display.destroy(cover);
+    display.destroy(display.make_window({280, 180, 60, 70}));
     EXPECT_NE(shown.on_screen(display), shown.painted());
     EXPECT_TRUE(turn_until([&] { return shown.on_screen(display) == shown.painted(); }));
     EXPECT_EQ(shown.view->paints, 1);
-}
 
-TEST_F(X11Presentation, HiddenWindowSendsNothingUntilItIsSeenAgain)
-{
-    Shown shown(loop);
-    ASSERT_TRUE(settle(shown));
     display.show(shown.x11->native_id(), false);
     loop.turn(std::chrono::seconds(5));
     const std::uint64_t sent = shown.x11->bytes_sent();
@@ -65,25 +117,11 @@ TEST_F(X11Presentation, HiddenWindowSendsNothingUntilItIsSeenAgain)
     EXPECT_TRUE(settle(shown, 500, 300));
 }
 
-TEST_F(X11Presentation, PictureLargerThanARequestArrivesWhole)
+TEST_F(X11Windows, PictureLargerThanARequestArrivesWhole)
 {
     Shown shown(loop, {.size = {760.0, 690.0}, .scale = 3.0});
     ASSERT_GT(std::size_t{2280} * 2070 * 4, std::size_t{xcb_get_maximum_request_length(display.get())} * 4);
     EXPECT_TRUE(settle(shown, 0, 0));
-}
-
-TEST_F(X11Presentation, IdleWindowSendsNothingAndWantsNothing)
-{
-    Shown shown(loop);
-    ASSERT_TRUE(settle(shown));
-    const std::uint64_t sent = shown.x11->bytes_sent();
-    for (int turn = 0; turn < 3; ++turn) {
-        EXPECT_FALSE(shown.x11->is_pending());
-        EXPECT_EQ(shown.x11->due(), std::nullopt);
-        loop.turn(Time{0});
-    }
-    EXPECT_EQ(shown.x11->bytes_sent(), sent);
-    EXPECT_EQ(shown.view->paints, 1);
 }
 
 // The cursor that the screen shows, as the XFIXES extension reads it back.
@@ -102,10 +140,10 @@ ShownCursor cursor_on(const Display& display)
         xcb_xfixes_get_cursor_image_reply(c, xcb_xfixes_get_cursor_image(c), nullptr));
     const std::uint32_t* pixels = xcb_xfixes_get_cursor_image_cursor_image(reply.get());
     return {reply->width, reply->height, reply->xhot, reply->yhot,
-            Pixels(pixels, pixels + xcb_xfixes_get_cursor_image_cursor_image_length(reply.get()))};
+            Pixels(pixels, pixels + reply->width * reply->height)};
 }
 
-TEST_F(X11Presentation, CursorIsThePicturePixelByPixel)
+TEST_F(X11Windows, CursorIsThePicturePixelByPixel)
 {
     const auto image = Image::painted({24.0, 16.0}, [](Graphics& graphics) {
         const ColorRef red = Color::device_rgba(1.0, 0.0, 0.0, 0.5),
