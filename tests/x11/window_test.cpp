@@ -7,7 +7,7 @@
 namespace r7::testing_x11 {
 namespace {
 
-struct X11Windows : X11Test {};
+using X11Windows = X11Test;
 
 TEST_F(X11Windows, WindowThatCannotBeOpenedSaysWhy)
 {
