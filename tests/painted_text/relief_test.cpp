@@ -1,0 +1,127 @@
+// The relief over shapes whose heights are known, and against its direct form.
+#include "tests/painted_text/direct_relief.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <new>
+#include <random>
+
+namespace {
+thread_local int allocations = 0;
+}
+
+void* operator new(std::size_t size)
+{
+    ++allocations;
+    if (void* memory = std::malloc(size)) return memory;
+    throw std::bad_alloc();
+}
+void operator delete(void* memory) noexcept
+{
+    std::free(memory);
+}
+void operator delete(void* memory, std::size_t) noexcept
+{
+    std::free(memory);
+}
+
+namespace r7 {
+namespace {
+
+// A square that `depth(x, y)` says what is covered of: all from 1 on.
+Mask mask_of(auto depth)
+{
+    Mask mask(51, 51);
+    for (int y = 0; y < 51; ++y)
+        for (int x = 0; x < 51; ++x)
+            mask.at(x, y) = static_cast<std::uint8_t>(std::lround(255.0 * std::clamp(depth(x, y), 0.0, 1.0)));
+    return mask;
+}
+
+Plane<float> relief_of(const Mask& mask, float radius)
+{
+    HeightField field;
+    field.set_radius(radius);
+    return field.from_mask(mask);
+}
+
+double rim(double depth, double radius)
+{
+    const double inward = 1.0 - std::clamp(depth / radius, 0.0, 1.0);
+    return std::sqrt(1.0 - inward * inward);
+}
+
+// With one soft edge, upright and lying: behind it everything is deeper by what the edge covers.
+TEST(Relief, OfABarIsTwoQuarterCirclesThatMeet)
+{
+    for (const double coverage : {0.0, 0.25, 0.5, 0.75, 1.0})
+        for (const float radius : {0.5f, 3.0f, 11.0f, 299.0f}) {
+            const auto depth = [&](int i) { return std::max(std::min(i - 10.0 + coverage, 28.0 - i), 0.0); };
+            const Plane<float> upright = relief_of(mask_of([&](int x, int) { return depth(x); }), radius);
+            const Plane<float> lying = relief_of(mask_of([&](int, int y) { return depth(y); }), radius);
+            for (int i = 2; i < 49; ++i) {
+                double expected = 0.0;
+                for (int k = -2; k <= 2; ++k) expected += (3 - std::abs(k)) / 9.0 * rim(depth(i + k), radius);
+                expected *= std::round(255.0 * std::min(depth(i), 1.0)) / 255.0;
+                ASSERT_NEAR(upright.at(i, 25), expected, 1e-6) << coverage << ", " << radius << " at " << i;
+                ASSERT_NEAR(lying.at(25, i), expected, 1e-6) << coverage << ", " << radius << " at " << i;
+            }
+        }
+}
+
+TEST(Relief, OfADiscIsRoundAndFallsAsTheRadiusGrows)
+{
+    const auto depth = [](int x, int y) { return 20.5 - std::hypot(x - 25, y - 25); };
+    const Mask disc = mask_of(depth);
+    Plane<float> before = relief_of(disc, 1.0f);
+    for (const float radius : {2.0f, 5.0f, 11.0f, 19.0f, 299.0f}) {
+        const Plane<float> heights = relief_of(disc, radius);
+        for (int y = 0; y < 51; ++y)
+            for (int x = 0; x < 51; ++x) {
+                ASSERT_EQ(heights.at(x, y) == 0.0f, disc.at(x, y) == 0) << x << ", " << y;
+                ASSERT_NEAR(heights.at(x, y), heights.at(y, 50 - x), 1e-6);
+                ASSERT_LE(heights.at(x, y), before.at(x, y) + 1e-6f) << radius << ": " << x << ", " << y;
+                if (depth(x, y) < 4.0 || depth(x, y) > 18.0) continue; // the edge and the top are smoothed
+                ASSERT_NEAR(heights.at(x, y), rim(depth(x, y), radius), 0.05) << radius;
+            }
+        before = heights;
+    }
+}
+
+// Over sheets of any size with a few holes, which runs of all lengths lie between.
+TEST(Relief, AgreesWithItsDirectFormAndAllocatesNothingOnceWarm)
+{
+    std::mt19937 random(71);
+    const auto below = [&](int most) { return std::uniform_int_distribution<int>(0, most - 1)(random); };
+    HeightField field;
+    field.from_mask(Mask(40, 40));
+    for (int round = 0; round < 60; ++round) {
+        Mask mask(1 + below(40), 1 + below(40));
+        std::ranges::fill(mask.samples(), std::uint8_t{255});
+        for (int holes = below(20); holes > 0; --holes)
+            mask.at(below(mask.width()), below(mask.height())) = static_cast<std::uint8_t>(below(256));
+        field.set_radius(0.5f + static_cast<float>(below(100)) / 4.0f);
+        const int before = allocations;
+        const Plane<float>& heights = field.from_mask(mask);
+        ASSERT_EQ(allocations, before);
+        const Plane<float> expected = direct_relief(mask, field.radius(), 22);
+        for (std::size_t i = 0; i < expected.samples().size(); ++i)
+            ASSERT_NEAR(heights.samples()[i], expected.samples()[i], 1e-6)
+                << "round " << round << " at " << i;
+    }
+    EXPECT_GT(allocations, 0);
+}
+
+TEST(Relief, TakesAnyRadius)
+{
+    const Mask mask = mask_of([](int x, int) { return x - 25.0; });
+    const float nan = std::numeric_limits<float>::quiet_NaN(),
+                infinity = std::numeric_limits<float>::infinity();
+    for (const float radius : {0.0f, -11.0f, nan, -infinity})
+        EXPECT_TRUE(std::ranges::equal(relief_of(mask, radius).samples(), relief_of(mask, 0.5f).samples()));
+    EXPECT_EQ(std::ranges::max(relief_of(mask, infinity).samples()), 0.0f);
+}
+
+} // namespace
+} // namespace r7
