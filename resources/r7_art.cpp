@@ -1,5 +1,6 @@
 // Draws the panel's images from its interface description.
 #include "resources/art/images.h"
+#include "resources/art/lightball.h"
 #include "resources/art/mock.h"
 
 #include <cstdio>
@@ -8,17 +9,23 @@
 
 namespace {
 
+using namespace r7;
 using namespace r7::art;
 
 constexpr char kUsage[] =
-    "usage: r7_art RESOURCES                      draw RESOURCES/images from RESOURCES/QmR7View.xml\n"
+    "usage: r7_art RESOURCES                      draw RESOURCES/images from RESOURCES/QmR7View.xml,\n"
+    "                                             and RESOURCES/lightball.tiff\n"
     "       r7_art RESOURCES --mock FILE [SCALE]  a picture of the whole panel\n";
+
+bool report(bool written, const std::filesystem::path& path)
+{
+    if (!written) std::fprintf(stderr, "r7_art: cannot write %s\n", path.c_str());
+    return written;
+}
 
 bool write(const Canvas& canvas, const std::filesystem::path& path)
 {
-    if (canvas.write_png(path)) return true;
-    std::fprintf(stderr, "r7_art: cannot write %s\n", path.c_str());
-    return false;
+    return report(canvas.write_png(path), path);
 }
 
 bool draw_images(const InterfaceDescription& description, const std::filesystem::path& folder)
@@ -28,6 +35,11 @@ bool draw_images(const InterfaceDescription& description, const std::filesystem:
             !write(drawn(row, 2), folder / (row.name + "@2x.png")))
             return false;
     return true;
+}
+
+bool draw_lightball(const std::filesystem::path& path)
+{
+    return report(write_lightball(path), path);
 }
 
 } // namespace
@@ -48,7 +60,10 @@ int main(int count, char** words)
         return 1;
     }
     const auto& description = std::get<InterfaceDescription>(read);
-    if (!mock) return draw_images(description, resources / "images") ? 0 : 1;
+    if (!mock)
+        return draw_images(description, resources / "images") && draw_lightball(resources / "lightball.tiff")
+                   ? 0
+                   : 1;
     const int scale = arguments.size() == 4 && arguments[3] == "2" ? 2 : 1;
     return write(mock_panel(description, scale), arguments[2]) ? 0 : 1;
 }
