@@ -2,6 +2,7 @@
 #include "app/command_line.h"
 
 #include "app/number_text.h"
+#include "app/text_command.h"
 
 #include <CLI/CLI.hpp>
 
@@ -52,8 +53,11 @@ Request read_command_line(int count, const char* const* arguments)
     snapshot_form->add_option("FILE.png", snapshot.file, "The picture")->required();
     add_scale(*snapshot_form, snapshot.scale, "Pixels for a point, 0.5 to 4 (default: 1)");
 
+    TextOptions text;
+    CLI::App* text_form = add_text_form(app, text);
+
     // What belongs to the window has no meaning without it.
-    for (CLI::App* form : {play_form, snapshot_form})
+    for (CLI::App* form : {play_form, snapshot_form, text_form})
         form->excludes(trace)->excludes(scale)->excludes(folder);
 
     try {
@@ -65,6 +69,7 @@ Request read_command_line(int count, const char* const* arguments)
     }
     if (play_form->parsed()) return play;
     if (snapshot_form->parsed()) return snapshot;
+    if (text_form->parsed()) return text;
     if (folder->count() > 0) window.resources = resources;
     return window;
 }

@@ -1,6 +1,8 @@
 // The command line of the program r7.
 #pragma once
 
+#include "platform/color.h"
+
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -32,6 +34,18 @@ struct SnapshotOptions {
     double scale = 1.0;
 };
 
+/// One painted text. Lengths in points, one pixel each.
+struct TextOptions {
+    std::string words;
+    std::filesystem::path file;
+    float font_size = 48.0f;
+    Rgba color{0.0, 0.0, 1.0, 1.0};
+    float height_scale = 11.0f;
+    float shade_scale = 18.0f;
+    std::optional<int> width{};  ///< none: as the words need it
+    std::optional<int> height{}; ///< none: of one line
+};
+
 /// Help or version was asked for: what to print.
 struct Answer {
     std::string text;
@@ -42,7 +56,7 @@ struct UsageError {
     std::string text;
 };
 
-using Request = std::variant<WindowOptions, PlayOptions, SnapshotOptions, Answer, UsageError>;
+using Request = std::variant<WindowOptions, PlayOptions, SnapshotOptions, TextOptions, Answer, UsageError>;
 
 /// What the arguments ask for; `arguments[0]` is the program's name.
 Request read_command_line(int count, const char* const* arguments);

@@ -5,6 +5,7 @@
 #include "app/play.h"
 #include "app/resources.h"
 #include "app/snapshot.h"
+#include "app/text_command.h"
 
 #include <cstdio>
 
@@ -25,6 +26,11 @@ ExitStatus serve(const PlayOptions& options)
 ExitStatus serve(const SnapshotOptions& options)
 {
     return take_snapshot(options, own_resources());
+}
+
+ExitStatus serve(const TextOptions& options)
+{
+    return paint_text(options, own_resources());
 }
 
 ExitStatus serve(const Answer& answer)

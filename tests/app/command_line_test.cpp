@@ -30,6 +30,19 @@ TEST(CommandLine, OpensAWindowPlaysFilesAndTakesASnapshot)
     EXPECT_NE(std::get<Answer>(read({"snapshot", "-h"})).text.find("Usage"), std::string::npos);
 }
 
+TEST(CommandLine, PaintsAText)
+{
+    const auto full =
+        std::get<TextOptions>(read({"text", "", "x.png", "--size", "9.5", "--color", "1,0.5,0", "--height",
+                                    "299", "--shade", "0.002", "--width", "4096", "--height-px", "1"}));
+    EXPECT_EQ(full.font_size, 9.5f);
+    EXPECT_EQ(full.color, (Rgba{1.0, 0.5, 0.0, 1.0}));
+    EXPECT_EQ(full.height_scale, 299.0f);
+    EXPECT_EQ(full.shade_scale, 0.002f);
+    EXPECT_EQ(full.width, 4096);
+    EXPECT_EQ(full.height, 1);
+}
+
 TEST(CommandLine, RefusesEverythingElse)
 {
     const Arguments wrong[] = {
@@ -46,6 +59,19 @@ TEST(CommandLine, RefusesEverythingElse)
         {"snapshot", "a", "b"},
         {"--trace", "play", "a"},
         {"--scale", "2", "snapshot", "a"},
+        {"--resources", "d", "snapshot", "a"},
+        {"text", "a"},
+        {"--trace", "text", "a", "b"},
+        {"text", "a", "b", "--size", "0"},
+        {"text", "a", "b", "--size", "1001"},
+        {"text", "a", "b", "--height", "300"},
+        {"text", "a", "b", "--shade", "0.001"},
+        {"text", "a", "b", "--shade", "nan"},
+        {"text", "a", "b", "--width", "4097"},
+        {"text", "a", "b", "--height-px", "1.5"},
+        {"text", "a", "b", "--color", "1,1"},
+        {"text", "a", "b", "--color", "1,1,1.1"},
+        {"text", "a", "b", "--color", "1,1,1,1"},
     };
     for (const Arguments& arguments : wrong) {
         const Request request = read(arguments);

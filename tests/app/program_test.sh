@@ -70,12 +70,20 @@ expect 0 '' '' "$program" snapshot double.png --scale 2
 expect_picture double.png $((2 * width)) $((2 * height))
 expect 1 '' 'r7: the picture no/where.png cannot be written' "$program" snapshot no/where.png
 
+expect 0 '' '' "$program" text 'Painted text' text.png --width 300 --height-px 60
+expect_picture text.png 300 60
+expect 0 '' '' "$program" text '' empty.png --size 10
+expect_picture empty.png 10 13
+expect 1 '' 'r7: the picture no/where.png cannot be written' "$program" text words no/where.png
+
 # Elsewhere, the program finds the resources that are installed with it.
 mkdir -p there/bin
 cp "$program" there/bin/r7
 expect 4 '' "*r7: $work/there/share/r7/*" there/bin/r7 play one.session
 mkdir there/share
 cp -r "$resources" there/share/r7
+rm there/share/r7/lightball.tiff
+expect 4 '' "r7: $work/there/share/r7/lightball.tiff: *" there/bin/r7 text words text.png
 expect 0 'set 35 1.05' '' there/bin/r7 play one.session
 
 ((failures == 0))
