@@ -164,6 +164,7 @@ else
 fi
 
 open_panel
+press delay_depth_knob 40
 kill "$server"
-expect_end 3 "the display is gone"
+expect_end 3 "the display is gone in mid-drag"
 [[ $(<"$work/complaint") == "r7: the display was lost" ]] || die "the loss is told as \"$(<"$work/complaint")\""
