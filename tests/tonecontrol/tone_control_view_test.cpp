@@ -1,8 +1,10 @@
 // What editor and display share: the mapping, the values, and a curve that is the plain response.
+#include "tests/tonecontrol/plain_response_path.h"
 #include "tests/tonecontrol/tone_rig.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace r7 {
@@ -24,17 +26,10 @@ void expect_plain_response(std::size_t points)
     model.setTrebleFrequency_dbGain_slope(7890, 3, 0.5f);
     EXPECT_EQ(rig.view->responseForFrequency(1000), model.responseForFrequency(1000));
 
-    const ToneMapping& mapping = rig.view->mapping();
-    const Rect graph = mapping.graph_frame();
-    const auto elements = rig.view->curve_path().elements();
-    ASSERT_EQ(elements.size(), 1 + points + 1);
-    EXPECT_EQ(elements.front().end(), graph.origin());
-    auto x = static_cast<float>(graph.x);
-    for (std::size_t i = 0; i < points; ++i, x += static_cast<float>(graph.width * 0.01)) {
-        const float db = model.responseForFrequency(mapping.frequency_for_location(x));
-        EXPECT_EQ(elements[i + 1].end(), (Point{x, mapping.location_for_gain(db)})) << i;
-    }
-    EXPECT_EQ(elements.back().end(), (Point{graph.right(), graph.y}));
+    Path plain;
+    plain_response_path(model, rig.view->mapping(), points, plain);
+    EXPECT_TRUE(std::ranges::equal(rig.view->curve_path().elements(), plain.elements()));
+    EXPECT_EQ(plain.elements().size(), 1 + points + 1);
 }
 
 } // namespace
