@@ -1,6 +1,7 @@
 // Bézier paths: building, arcs as cubics, flattening.
 #include "platform/path.h"
 
+#include <cassert>
 #include <cmath>
 #include <numbers>
 
@@ -52,6 +53,21 @@ void Path::line_to(Point point)
 {
     append(Verb::line).points[0] = point;
     current_ = point;
+}
+
+// Room is made once for all of them: a response of hundreds of lines is rebuilt with every step of a knob.
+void Path::append_lines(std::span<const float> x, std::span<const float> y)
+{
+    assert(x.size() == y.size());
+    if (x.empty()) return;
+    const std::size_t before = elements_.size();
+    elements_.resize(before + x.size());
+    for (std::size_t i = 0; i < x.size(); ++i) {
+        Element& element = elements_[before + i];
+        element.verb = Verb::line;
+        element.points[0] = {x[i], y[i]};
+    }
+    current_ = {x.back(), y.back()};
 }
 
 void Path::curve_to(Point control_1, Point control_2, Point end)

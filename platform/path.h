@@ -41,6 +41,8 @@ public:
     void remove_all_points();
     void move_to(Point point);
     void line_to(Point point);
+    /// Lines to the points (x[i], y[i]) in turn; there are as many of x as of y.
+    void append_lines(std::span<const float> x, std::span<const float> y);
     void curve_to(Point control_1, Point control_2, Point end);
     void close();
 

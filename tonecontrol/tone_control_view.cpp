@@ -114,8 +114,10 @@ void ToneControlView::drawGraph()
     const auto response_db = curve_.response(tc);
     mCurvePath.remove_all_points();
     mCurvePath.move_to(graph_frame().origin());
-    for (std::size_t i = 0; i < curve_points_; ++i)
-        mCurvePath.line_to({curve_x_[i], mapping_.location_for_gain(response_db[i])});
+    std::array<float, ResponseCurve::kCapacity> curve_y;
+    for (std::size_t i = 0; i < curve_points_; ++i) curve_y[i] = mapping_.location_for_gain(response_db[i]);
+    mCurvePath.append_lines(std::span(curve_x_).first(curve_points_),
+                            std::span(curve_y).first(curve_points_));
     if (response_db.back() >= kFloorDb) mCurvePath.line_to({graph_frame().right(), graph_frame().y});
 }
 

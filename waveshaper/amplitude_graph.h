@@ -50,11 +50,13 @@ template <class Amplitude>
 void append_sine_response(Path& path, const AmplitudeGraph& graph, const CurveCoefficients& curve,
                           Amplitude amplitude, float postgain, std::size_t vertices)
 {
-    std::array<float, kSineVertices> positions, heights;
-    sine_positions(graph.in_axis(), std::span(positions).first(vertices));
-    sine_response(curve, amplitude, postgain, graph.out_axis(), std::span(heights).first(vertices));
+    std::array<float, kSineVertices> position_room, height_room;
+    const auto positions = std::span(position_room).first(vertices);
+    const auto heights = std::span(height_room).first(vertices);
+    sine_positions(graph.in_axis(), positions);
+    sine_response(curve, amplitude, postgain, graph.out_axis(), heights);
     path.move_to({positions[0], heights[0]});
-    for (std::size_t i = 1; i < vertices; ++i) path.line_to({positions[i], heights[i]});
+    path.append_lines(positions.subspan(1), heights.subspan(1));
 }
 
 } // namespace r7
