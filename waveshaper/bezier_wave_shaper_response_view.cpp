@@ -19,10 +19,7 @@ QM_BezierWaveShaperResponseView::QM_BezierWaveShaperResponseView(const Rect& fra
     : View(frame), graph_{graph_frame_in(bounds()), {}}
 {
     set_mode_string("-");
-    sine_response_path.line_width = 2;
-    // All that these will ever hold.
-    sine_response_path.reserve(kVertices);
-    sine_response_highlight_.reserve(kVertices);
+    sine_response_path.reserve(kVertices); // all that it will ever hold
 }
 
 void QM_BezierWaveShaperResponseView::set_from_sequence_data(const _QM_R7_Bezier_Sequence& record)
@@ -51,14 +48,16 @@ void QM_BezierWaveShaperResponseView::set_mode_string(const char* mode)
 {
     if (!mode || (mode_string_image && mode_string == mode)) return;
     mode_string = mode;
-    mode_string_image = Image::painted(kLabelSize, [this](Graphics& graphics) {
+    set_needs_display();
+    mode_string_image = labels_[mode_string];
+    if (mode_string_image) return;
+    mode_string_image = labels_[mode_string] = Image::painted(kLabelSize, [this](Graphics& graphics) {
         const Rect all{0, 0, kLabelSize.width, kLabelSize.height};
         const Color black(Rgba{0, 0, 0, 1});
         graphics.fill_rect(all, &black, Compositing::source_over);
         const ColorRef blue = Color::device_rgba(0.333F, 0.333F, 1, 1);
         graphics.draw_text(mode_string, all, {9, TextAlignment::center, blue});
     });
-    set_needs_display();
 }
 
 void QM_BezierWaveShaperResponseView::set_sine_response_color(ColorRef color)
@@ -90,8 +89,6 @@ void QM_BezierWaveShaperResponseView::draw_graph()
     sine_response_path.remove_all_points();
     append_sine_response(sine_response_path, graph_, coefficients_, pregain * input_level, postgain,
                          kVertices);
-    sine_response_path.flatten_into(sine_response_highlight_);
-    sine_response_highlight_.line_width = 0.5;
     path_is_stale_ = false;
 }
 
@@ -100,8 +97,11 @@ void QM_BezierWaveShaperResponseView::drawRect(Graphics& graphics, const Rect&)
     // Not clipped: a response may leave the graph.
     graphics.fill_rect(graph_.frame, background_color.get(), Compositing::source_over);
     if (have_data_to_draw) {
+        sine_response_path.line_width = 2;
         graphics.stroke(sine_response_path, sine_response_color.get());
-        graphics.stroke(sine_response_highlight_, &kHighlight);
+        // Of a flattened copy, which is the path itself: it has no curves.
+        sine_response_path.line_width = 0.5;
+        graphics.stroke(sine_response_path, &kHighlight);
     }
     if (mode_string_image) {
         const double x = bounds().x + (bounds().width - mode_string_image->size().width) * 0.5;

@@ -10,6 +10,7 @@
 #include "waveshaper/bezier_sequence.h"
 #include "waveshaper/curve_coefficients.h"
 
+#include <map>
 #include <string>
 #include <utility>
 
@@ -85,13 +86,13 @@ private:
     double input_level = 0.0;
     std::string mode_string;
     ImageRef mode_string_image;
+    std::map<std::string, ImageRef> labels_; // all that were shown, by their modes: there are few
     ColorRef sine_response_color = Color::device_rgba(0.8, 0.15, 0.1, 1);
     ColorRef background_color;
     Callback toggle_callback_;
 
     bool path_is_stale_ = true;
     Path sine_response_path;
-    Path sine_response_highlight_; // a flattened copy
 };
 
 } // namespace r7
