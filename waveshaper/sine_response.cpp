@@ -85,17 +85,21 @@ template <class Amplitude>
     const double intercept = curve.pos_Intercept;
     const auto [points_per_amplitude, minimum, origin] = axis;
 
+    // Input, output, height, in a pass each: one pass for all needs more registers than there are, and takes
+    // longer.
+    for (std::size_t i = 0; i < count; ++i) heights[i] = static_cast<float>(sine[i] * amplitude);
     for (std::size_t i = 0; i < count; ++i) {
-        const auto in = static_cast<float>(sine[i] * amplitude);
+        const float in = heights[i];
         const double u = std::abs(in);
         const double first = ((p0 * u + q0) * u + r0) * u + s0;
         const double second = ((p1 * u + q1) * u + r1) * u + s1;
         const double straight = u * slope + intercept;
         const double curved = u >= end_of_first ? second : first;
         const double response = u >= end_of_second ? straight : curved;
-        const float out = static_cast<float>(response) * (std::copysign(1.0F, in) * postgain);
-        heights[i] = static_cast<float>(points_per_amplitude * (out - minimum) + origin);
+        heights[i] = static_cast<float>(response) * (std::copysign(1.0F, in) * postgain);
     }
+    for (std::size_t i = 0; i < count; ++i)
+        heights[i] = static_cast<float>(points_per_amplitude * (heights[i] - minimum) + origin);
 }
 
 R7_WIDER_VECTORS
