@@ -152,6 +152,7 @@ void QmKnobView::update_geometry()
     marker_center_ = {corner.x + radius_ + std::cos(angle) * (1.0 - marker_inset_) * radius_,
                       corner.y + radius_ + std::sin(angle) * (1.0 - marker_inset_) * radius_};
 
+    if (marker_image()) return; // the dot stands in for one that is missing
     marker_dot_.remove_all_points();
     marker_dot_.append_oval(
         {marker_center_.x - kDotWidth * 0.5, marker_center_.y - kDotWidth * 0.5, kDotWidth, kDotWidth});
