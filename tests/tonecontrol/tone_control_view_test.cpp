@@ -19,11 +19,7 @@ void expect_plain_response(std::size_t points)
     rig.view->set_maximum_frequency(22050);
     Qm_ObjectiveToneControl model;
     model.set_sample_rate(48000);
-    model.setBassFrequency_dbGain_slope(137, 6, 0.6f);
-    model.setLowMidFrequency_dbGain_Q(411, -9, 0.75f);
-    model.setMidFrequency_dbGain_Q(1234, 11, 0.3f);
-    model.setHighMidFrequency_dbGain_Q(3456, -4, 0.9f);
-    model.setTrebleFrequency_dbGain_slope(7890, 3, 0.5f);
+    design_rig_values(model);
     EXPECT_EQ(rig.view->responseForFrequency(1000), model.responseForFrequency(1000));
 
     Path plain;
