@@ -27,6 +27,8 @@ expect() {
     [[ $(<err) == $complaint ]] || fail "$*: complains \"$(<err)\", not \"$complaint\""
 }
 
+to_full() { "$program" "$@" >/dev/full; }
+
 # expect_picture FILE WIDTH HEIGHT: a PNG file of that many pixels.
 expect_picture() {
     local size
@@ -53,8 +55,8 @@ expect 0 '' '' "$program" play held.session
 expect 2 '' 'wrong.session:2: a word is missing: wait SECONDS' "$program" play one.session wrong.session
 expect 2 '' 'missing.session: the file cannot be read' "$program" play one.session missing.session
 expect 2 '' 'empty: the file cannot be read' "$program" play empty
-# shellcheck disable=SC2016 # the inner shell's $0
-expect 1 '' '*standard output cannot be written' bash -c '"$0" play one.session >/dev/full' "$program"
+expect 1 '' '*standard output cannot be written' to_full play one.session
+expect 1 '' '*standard output cannot be written' to_full --version
 
 # Pictures: relative to a folder or to the current one; of a view, or of everything.
 printf 'frame panel output_level\npicture all.png\npicture one.png output_level\n' >pictures.session

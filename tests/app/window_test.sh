@@ -30,16 +30,28 @@ open_display() {
     within 30 test -s "$work/display" || die "Xvfb does not start"
     DISPLAY=:$(<"$work/display")
     export DISPLAY
-    if [[ -n $manager ]]; then "$manager" >/dev/null 2>&1 & fi
+    [[ -n $manager ]] || return 0
+    "$manager" >/dev/null 2>&1 &
+    within 30 is_managed || die "$manager does not start"
 }
+
+is_managed() { xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'; }
 
 is_shown() { window=$(xdotool search --class '^r7$' 2>/dev/null | tail -n 1) && xwininfo -id "$window" | grep -q IsViewable; }
 
+# A window manager may move it after it appeared.
+stays() {
+    local before
+    before=$(xwininfo -id "$window" | grep Absolute)
+    sleep 0.2
+    [[ $(xwininfo -id "$window" | grep Absolute) == "$before" ]]
+}
+
 open_panel() {
-    "$program" --trace --scale 1 >"$work/trace" 2>"$work/complaint" &
+    timeout -k 5 60 "$program" --trace --scale 1 >"$work/trace" 2>"$work/complaint" &
     panel=$!
     within 30 is_shown || die "the window does not appear: $(<"$work/complaint")"
-    sleep 0.3 # a window manager may still move it
+    within 30 stays || die "the window does not stay where it is"
 }
 
 # expect_end STATUS HOW
