@@ -66,35 +66,36 @@ void QmR7PaintedTextView::set_text_font_size_paint_color_height_scale_shade_scal
 void QmR7PaintedTextView::set_text_string(std::optional<std::string_view> text)
 {
     if (text) paint_text_ = *text;
-    text_image_ = nullptr;
-    updateImage();
+    render_anew();
 }
 
 void QmR7PaintedTextView::set_font_size(float font_size)
 {
     if (!(font_size > 0.0f)) return;
     font_size_ = font_size;
-    text_image_ = nullptr;
-    updateImage();
+    render_anew();
 }
 
 void QmR7PaintedTextView::set_paint_color(const ColorRef& color)
 {
     if (const Rgba* components = color ? color->rgba() : nullptr) color_filter_.color = *components;
-    text_image_ = nullptr;
-    updateImage();
+    render_anew();
 }
 
 void QmR7PaintedTextView::set_height_field_scale(float scale)
 {
     height_field_filter_.set_radius(scale);
-    text_image_ = nullptr;
-    updateImage();
+    render_anew();
 }
 
 void QmR7PaintedTextView::set_shaded_image_scale(float scale)
 {
     shaded_filter_.set_scale(scale);
+    render_anew();
+}
+
+void QmR7PaintedTextView::render_anew()
+{
     text_image_ = nullptr;
     updateImage();
 }
@@ -146,6 +147,7 @@ void QmR7PaintedTextView::viewBoundsDidChange(const Rect&)
 
 void QmR7PaintedTextView::prepareOpenGL()
 {
+    if (!gl_) return;
     gl_->set_swap_interval(1);
     gl_->set_surface_opacity(0);
     for (const GLCapability capability :

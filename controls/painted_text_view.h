@@ -78,9 +78,10 @@ public:
     /// changes nothing and asks for nothing.
     void setImage_dirtyRect(ImageRef image, const Rect& dirty);
 
-    /// Sets what stays the same in the OpenGL context from one draw to the next.
+    /// Sets what stays the same in the OpenGL context, if there is one; it has to be current.
     void prepareOpenGL();
-    /// Makes the OpenGL context and the image follow the bounds, if those are not what they were.
+    /// Makes the OpenGL context, which has to be current, and the image follow the bounds, if those have
+    /// changed.
     void updateMatrices();
     /// The image is built anew, from the text as it was rendered: for the size before.
     void viewBoundsDidChange(const Rect& bounds);
@@ -92,6 +93,8 @@ protected:
     virtual bool drawRect_inCIContext(const Rect& rect, ImageContext& context);
 
 private:
+    // After every change of what the text looks like.
+    void render_anew();
     void render_text();
     // The text image after all three filters; none without a text image or a ball.
     ImageRef filtered();
