@@ -1,5 +1,5 @@
 // The fast curves against the plain ones: not a bit may differ.
-#include "bench/limits.h"
+#include "bench/limits/limits.h"
 
 #include "tests/tonecontrol_model/random_tones.h"
 #include "tests/waveshaper_model/compare_sine_response.h"

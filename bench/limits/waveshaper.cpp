@@ -1,6 +1,6 @@
 // The waveshaper's sines against the plain form, which steps through the phases.
-#include "bench/limits.h"
-#include "bench/ratio.h"
+#include "bench/limits/limits.h"
+#include "bench/limits/ratio.h"
 
 #include "tests/waveshaper_model/plain_sine_response.h"
 #include "waveshaper/bezier_curve.h"

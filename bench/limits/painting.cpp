@@ -1,6 +1,6 @@
 // What a repaint costs that need not be of the whole panel.
-#include "bench/limits.h"
-#include "bench/ratio.h"
+#include "bench/limits/limits.h"
+#include "bench/limits/ratio.h"
 
 #include "platform/offscreen/offscreen_window.h"
 #include "tests/support/panel_rig.h"

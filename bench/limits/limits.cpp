@@ -1,5 +1,5 @@
 // The table of limits.
-#include "bench/limits.h"
+#include "bench/limits/limits.h"
 
 #include <cstdio>
 

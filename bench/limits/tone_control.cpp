@@ -1,6 +1,6 @@
 // A tone control's editor against the plain form, which asks the model for each point of its curve.
-#include "bench/limits.h"
-#include "bench/ratio.h"
+#include "bench/limits/limits.h"
+#include "bench/limits/ratio.h"
 
 #include "tests/tonecontrol/plain_response_path.h"
 #include "tests/tonecontrol/tone_rig.h"
@@ -21,22 +21,16 @@ void measure_tone_control(Limits& limits)
         model.setMidFrequency_dbGain_Q(1234, level_db, 0.3f);
         plain_response_path(model, rig.view->mapping(), kPoints, path);
     };
-
-    limits.at_least(30,
-                    ratio(plain,
-                          [&] {
-                              turn();
-                              rig.view->setLevelMid(level_db);
-                              rig.view->update_geometry();
-                          }),
-                    "tone-control rebuild after one band's change: plain / ours");
-    limits.at_least(1000,
-                    ratio(plain,
-                          [&] {
-                              rig.view->setLevelMid(level_db);
-                              rig.view->update_geometry();
-                          }),
-                    "setter with an unchanged value: plain / ours");
+    const auto set_again = [&] {
+        rig.view->setLevelMid(level_db);
+        rig.view->update_geometry();
+    };
+    const auto rebuild = [&] {
+        turn();
+        set_again();
+    };
+    limits.at_least(30, ratio(plain, rebuild), "tone-control rebuild after one band's change: plain / ours");
+    limits.at_least(1000, ratio(plain, set_again), "setter with an unchanged value: plain / ours");
 }
 
 } // namespace r7::bench

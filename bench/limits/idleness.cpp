@@ -1,5 +1,5 @@
 // An open panel to which nothing happens does nothing.
-#include "bench/limits.h"
+#include "bench/limits/limits.h"
 
 #include "platform/x11/x11_window.h"
 #include "tests/support/panel_rig.h"
@@ -49,7 +49,7 @@ void measure_idleness(Limits& limits)
         ticks = clock_ticks() - ticks_before;
         bytes = static_cast<double>(x11->bytes_sent()) - sent_before;
     } else {
-        std::fputs("r7_bench: no display to open the panel on\n", stderr);
+        std::fputs("r7_limits: no display to open the panel on\n", stderr);
     }
     limits.at_most(0, ticks, "open panel, nothing happening for 10 s: clock ticks of the processor");
     limits.at_most(0, bytes, "open panel, nothing happening for 10 s: bytes sent to the display");

@@ -1,5 +1,5 @@
 // Ratios of medians, from Google Benchmark's repetitions.
-#include "bench/ratio.h"
+#include "bench/limits/ratio.h"
 
 #include <map>
 #include <string>
