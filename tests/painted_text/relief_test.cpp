@@ -17,6 +17,11 @@ void* operator new(std::size_t size)
     if (void* memory = std::malloc(size)) return memory;
     throw std::bad_alloc();
 }
+// Others in the process free what they get from this one with the functions below, too.
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept
+{
+    return std::malloc(size);
+}
 void operator delete(void* memory) noexcept
 {
     std::free(memory);
