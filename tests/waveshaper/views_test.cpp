@@ -111,6 +111,9 @@ TEST(WaveShaperViews, AllocateNothingAfterTheirCreation)
     EXPECT_EQ(allocations, before);
     display.set_mode_string("B"); // a new label is a new image, so the counter must count
     EXPECT_GT(allocations, before);
+    const std::size_t labelled = allocations;
+    for (const char* mode : {"-", "B"}) display.set_mode_string(mode);
+    EXPECT_EQ(allocations, labelled) << "a label that was shown is kept";
 }
 
 TEST(WaveShaperEditor, PicksThePointInWhoseSquareThePressLies)
