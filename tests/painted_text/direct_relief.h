@@ -22,7 +22,8 @@ inline Plane<float> direct_relief(const Mask& mask, float radius, int reach)
         for (int x = 0; x < mask.width(); ++x) {
             float depth = 0.0f;
             for (const float threshold : {32.0f, 96.0f, 160.0f, 224.0f}) {
-                int nearest = at(mask, x, y) < threshold ? 0 : (reach + 1) * (reach + 1);
+                if (at(mask, x, y) < threshold) continue;
+                int nearest = (reach + 1) * (reach + 1);
                 for (int j = -reach; j <= reach; ++j)
                     for (int i = -reach; i <= reach; ++i)
                         if (at(mask, x + i, y + j) < threshold) nearest = std::min(nearest, i * i + j * j);
