@@ -2,7 +2,7 @@
 #include "platform/cairo/back_buffer.h"
 #include "platform/graphics.h"
 #include "platform/window.h"
-#include "tests/platform/canvas.h"
+#include "tests/support/canvas.h"
 
 #include <unistd.h>
 

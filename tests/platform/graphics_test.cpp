@@ -1,5 +1,5 @@
 // Drawing: what is lit, and what is not.
-#include "tests/platform/canvas.h"
+#include "tests/support/canvas.h"
 
 #include <chrono>
 #include <limits>

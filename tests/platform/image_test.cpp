@@ -1,6 +1,6 @@
 // Images: files that are read and files that are refused, the twin of twice the pixels, painted images.
 #include "platform/cairo/image_pixels.h"
-#include "tests/platform/canvas.h"
+#include "tests/support/canvas.h"
 
 #include <sys/resource.h>
 #include <unistd.h>
