@@ -1,35 +1,10 @@
 // The relief over shapes whose heights are known, and against its direct form.
 #include "tests/painted_text/direct_relief.h"
+#include "tests/support/counted_allocations.h"
 
 #include <gtest/gtest.h>
 
-#include <limits>
-#include <new>
 #include <random>
-
-namespace {
-thread_local int allocations = 0;
-}
-
-void* operator new(std::size_t size)
-{
-    ++allocations;
-    if (void* memory = std::malloc(size)) return memory;
-    throw std::bad_alloc();
-}
-// Others in the process free what they get from this one with the functions below, too.
-void* operator new(std::size_t size, const std::nothrow_t&) noexcept
-{
-    return std::malloc(size);
-}
-void operator delete(void* memory) noexcept
-{
-    std::free(memory);
-}
-void operator delete(void* memory, std::size_t) noexcept
-{
-    std::free(memory);
-}
 
 namespace r7 {
 namespace {
@@ -88,15 +63,15 @@ TEST(Relief, AgreesWithItsDirectFormAndAllocatesNothingOnceWarm)
         for (int holes = below(20); holes > 0; --holes)
             mask.at(below(mask.width()), below(mask.height())) = static_cast<std::uint8_t>(below(256));
         field.set_radius(0.5f + static_cast<float>(below(100)) / 4.0f);
-        const int before = allocations;
+        const std::size_t before = allocations();
         const Plane<float>& heights = field.from_mask(mask);
-        ASSERT_EQ(allocations, before);
+        ASSERT_EQ(allocations(), before);
         const Plane<float> expected = direct_relief(mask, field.radius(), 22);
         for (std::size_t i = 0; i < expected.samples().size(); ++i)
             ASSERT_NEAR(heights.samples()[i], expected.samples()[i], 1e-6)
                 << "round " << round << " at " << i;
     }
-    EXPECT_GT(allocations, 0);
+    EXPECT_GT(allocations(), 0u);
 }
 
 } // namespace
