@@ -1,6 +1,7 @@
 // `r7`: the panel in a window.
 #include "app/panel_program.h"
 
+#include "app/open_overlay.h"
 #include "app/resources.h"
 #include "app/stop_signals.h"
 #include "app/transcript.h"
@@ -71,7 +72,7 @@ ExitStatus show_panel(const WindowOptions& options, const std::filesystem::path&
 
     if (options.trace) {
         std::setvbuf(stdout, nullptr, _IOLBF, BUFSIZ);
-        transcript.begin(*panel);
+        transcript.begin([&] { return open_overlay(*panel); });
     }
     while (open && std::ferror(stdout) == 0) {
         loop.turn(std::nullopt);
