@@ -85,6 +85,7 @@ public:
     bool is_key_window() const;
 
     WindowLevel level = WindowLevel::normal;
+    /// Set before the window is shown.
     bool has_shadow = false;
     bool is_opaque = true;
     bool accepts_mouse_moved_events = false;
@@ -129,6 +130,8 @@ private:
     bool is_layer() const { return parent_ && !backend_; }
     // Lower left corner of a child, in this window's coordinates.
     Point origin_of(const Window& child) const;
+    // What a child and its shadow cover, in this window's coordinates.
+    Rect covered_by(const Window& child) const;
     void detach_from_parent();
     void update_views();
     // The window at the end of the chain of parents.

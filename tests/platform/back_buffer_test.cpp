@@ -130,6 +130,7 @@ TEST_F(BackBufferTest, PartialRepaintsAddUpToAFullOne)
         for (int i = 0; i < 40; ++i) window->content_view()->add_subview(random_view(rect(30)));
         const auto child = std::make_shared<Window>(Rect{30.5, 20, 60, 40});
         child->set_content_view(random_view({0, 0, 60, 40}));
+        child->has_shadow = true;
         window->add_child_window(*child);
         BackBuffer picture({120, 80}, scale), whole({120, 80}, scale);
         picture.repaint(*window);

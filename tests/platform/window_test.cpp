@@ -1,5 +1,6 @@
 // The view tree and windows: conversions, hits, captured drags, layers, redraw requests.
 #include "platform/window.h"
+#include "platform/window_shadow.h"
 
 #include <gtest/gtest.h>
 
@@ -160,9 +161,12 @@ TEST_F(WindowTest, AChildWithoutABackEndIsALayerThatTakesTheEventsAboveIt)
 
     child->make_key_and_order_front();
     EXPECT_TRUE(child->is_key_window());
+    child->has_shadow = true;
+    const Rect covered = with_shadow({10, 10, 100, 80});
+    EXPECT_TRUE(covered.right() > 110 && covered.y < 10 && covered.x == 10 && covered.top() == 90);
     child.reset();
     EXPECT_TRUE(window->is_key_window());
-    EXPECT_EQ(window->take_dirty_region().rects()[0], (Rect{10, 10, 100, 80}));
+    EXPECT_EQ(window->take_dirty_region().rects()[0], intersection(covered, window->frame()));
     window->press(MouseButton::primary, at(31, 37));
     EXPECT_EQ(inner->heard, "down ");
 }
