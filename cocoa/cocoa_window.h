@@ -46,7 +46,7 @@ private:
 
     NSView* view_;
     std::shared_ptr<Window> window_;
-    std::vector<Overlay> overlays_; // bottom to top
+    std::vector<Overlay> overlays_;
     ObjCPtr<NSCursor> cursor_;
     NSPoint pointer_{}; // on the screen, at the event before
 };

@@ -129,6 +129,8 @@ void CocoaWindow::child_windows_changed()
         const auto is_this = [&](const Overlay& overlay) { return overlay.child == child; };
         if (std::none_of(overlays_.begin(), overlays_.end(), is_this)) open(*child);
     }
+    for (const Overlay& overlay : overlays_)
+        if (overlay.child == children.back()) [overlay.native.get() makeKeyAndOrderFront:nil];
 }
 
 void CocoaWindow::open(Window& child)
@@ -148,10 +150,10 @@ void CocoaWindow::open(Window& child)
         initWithFrame:NSMakeRect(0.0, 0.0, child.frame().width, child.frame().height)] autorelease];
     [view showWindow:child.shared_from_this()];
     [window setContentView:view];
+    [window makeFirstResponder:view];
     [window setIgnoresMouseEvents:NO];
     [window setAcceptsMouseMovedEvents:child.accepts_mouse_moved_events];
     [[view_ window] addChildWindow:window ordered:NSWindowAbove];
-    [window makeKeyAndOrderFront:nil];
 }
 
 void CocoaWindow::close(const Overlay& overlay)
