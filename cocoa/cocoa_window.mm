@@ -77,6 +77,9 @@ void CocoaWindow::tell(NSEvent* event) noexcept
 try {
     const auto window = window_;
     update_frame();
+    // Without a window manager, the click that made the panel's window the key one put it over its children.
+    if (kOnGNUstep && is_press(event))
+        for (const Overlay& overlay : overlays_) [overlay.native.get() orderFront:nil];
     switch ([event type]) {
     case NSEventTypeLeftMouseDown:
         return window->press(MouseButton::primary, mouse_event(event));
