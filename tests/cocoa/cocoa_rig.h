@@ -15,8 +15,8 @@ namespace r7 {
 struct CocoaTest : testing::Test {
     HostProcess host{R7_BUNDLE};
     char* lines = nullptr;
-    std::size_t size = 0;
-    std::FILE* file = open_memstream(&lines, &size);
+    std::size_t length = 0;
+    std::FILE* file = open_memstream(&lines, &length);
     Transcript transcript{file};
     std::unique_ptr<OffscreenPanel> twin =
         OffscreenPanel::open(std::make_shared<const Bundle>(R7_RESOURCES), 1.0, &transcript);
@@ -33,6 +33,15 @@ struct CocoaTest : testing::Test {
         EXPECT_EQ(host.quit(), 0);
         std::fclose(file);
         std::free(lines);
+    }
+
+    /// Whether that becomes so.
+    static bool eventually(const std::function<bool()>& is_so)
+    {
+        const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(20);
+        for (; !is_so(); std::this_thread::sleep_for(std::chrono::milliseconds(10)))
+            if (std::chrono::steady_clock::now() > end) return false;
+        return true;
     }
 
     /// Performs a session's gestures on the display and off it, and compares what came of each.
@@ -60,7 +69,7 @@ private:
     std::string take_expected()
     {
         std::fflush(file);
-        const std::string text(lines, size);
+        const std::string text(lines, length);
         std::rewind(file);
         return std::regex_replace(text, std::regex("(overlay open) [a-z_]*"), "$1 editor");
     }

@@ -4,7 +4,9 @@
 #include "tests/cocoa/host/descriptor_watch.h"
 #include "tests/cocoa/host/panel_host.h"
 
+#include <algorithm>
 #include <cstdio>
+#include <string>
 
 #include <unistd.h>
 
@@ -20,24 +22,41 @@ NSDictionary* settings()
                                                       @"GSFirstCommandKey", nil];
 }
 
-// What can be read now, of which whole lines are performed. False at the end of it.
-bool obey(PanelHost& host, std::string& unread)
+// Takes what can be read now; false at the end of it. Ends the wait for an event, lest the commands are
+// performed inside of it.
+bool read_commands(std::string& unread)
 {
     char piece[4096];
     const auto count = ::read(STDIN_FILENO, piece, sizeof piece);
-    if (count <= 0) return false;
-    unread.append(piece, static_cast<std::size_t>(count));
-    for (std::size_t end; (end = unread.find('\n')) != std::string::npos; unread.erase(0, end + 1))
-        std::puts(host.perform(unread.substr(0, end)).c_str());
-    std::fflush(stdout);
-    return !host.is_over();
+    unread.append(piece, static_cast<std::size_t>(std::max(count, ssize_t{0})));
+    [NSApp postEvent:[NSEvent otherEventWithType:NSApplicationDefined
+                                        location:NSZeroPoint
+                                   modifierFlags:0
+                                       timestamp:0.0
+                                    windowNumber:0
+                                         context:nil
+                                         subtype:0
+                                           data1:0
+                                           data2:0]
+             atStart:NO];
+    return count > 0;
+}
+
+void serve_one_event()
+{
+    NSAutoreleasePool* const pool = [NSAutoreleasePool new];
+    [NSApp sendEvent:[NSApp nextEventMatchingMask:NSAnyEventMask
+                                        untilDate:[NSDate distantFuture]
+                                           inMode:NSDefaultRunLoopMode
+                                          dequeue:YES]];
+    [pool release];
 }
 
 } // namespace
 
 int main()
 {
-    NSAutoreleasePool* pool = [NSAutoreleasePool new];
+    NSAutoreleasePool* const pool = [NSAutoreleasePool new];
     NSUserDefaults* const defaults = [NSUserDefaults standardUserDefaults];
     [defaults registerDefaults:settings()];
     PanelHost host([NSBundle bundleWithPath:[defaults stringForKey:@"bundle"]],
@@ -48,18 +67,14 @@ int main()
 
     RunLoopFile toolbox(RunLoop::current());
     const DescriptorWatch toolbox_watch(toolbox.descriptor(), [&] { toolbox.turn(); });
-    bool over = false;
+    bool more_to_come = true;
     std::string unread;
-    const DescriptorWatch input_watch(STDIN_FILENO, [&] { over = !obey(host, unread); });
-    while (!over) {
-        [pool release];
-        pool = [NSAutoreleasePool new];
-        // An event, or nothing for a while: what is watched is served meanwhile, and ends no wait.
-        NSEvent* const event = [NSApp nextEventMatchingMask:NSAnyEventMask
-                                                  untilDate:[NSDate dateWithTimeIntervalSinceNow:0.1]
-                                                     inMode:NSDefaultRunLoopMode
-                                                    dequeue:YES];
-        if (event) [NSApp sendEvent:event];
+    const DescriptorWatch input_watch(STDIN_FILENO, [&] { more_to_come = read_commands(unread); });
+    while (more_to_come && !host.is_over()) {
+        serve_one_event();
+        for (std::size_t end; (end = unread.find('\n')) != std::string::npos; unread.erase(0, end + 1))
+            std::puts(host.perform(unread.substr(0, end)).c_str());
+        std::fflush(stdout);
     }
     [pool release];
 }

@@ -43,7 +43,8 @@ private:
     std::string write_picture(std::string_view file) const;
     std::string release_view();
 
-    std::optional<OpenOverlay> overlay() const;
+    // Of all windows, lest one that has lost its parent is overlooked.
+    static std::optional<OpenOverlay> overlay();
 
     NSBundle* const bundle_;
     const NSPoint origin_;

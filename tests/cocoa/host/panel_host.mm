@@ -44,7 +44,7 @@ void handle_waiting_events()
 
 PanelHost::PanelHost(NSBundle* bundle, NSPoint origin) : bundle_([bundle retain]), origin_(origin)
 {
-    transcript_.begin([this] { return overlay(); });
+    transcript_.begin(overlay);
     log_receiver = &transcript_;
     _NSLog_printf_handler = receive_log;
 }
@@ -135,16 +135,20 @@ std::string PanelHost::release_view()
     return {};
 }
 
-std::optional<OpenOverlay> PanelHost::overlay() const
+std::optional<OpenOverlay> PanelHost::overlay()
 {
-    NSArray* const children = [window_ childWindows];
-    for (NSUInteger i = 0; i < [children count]; ++i) {
-        NSWindow* const child = [children objectAtIndex:i];
-        if (![NSStringFromClass([child class]) isEqual:@"QM_R7_Overlay_Window"]) continue;
-        const NSRect frame = [child frame];
-        return OpenOverlay{"editor", {frame.origin.x, frame.origin.y, frame.size.width, frame.size.height}};
+    std::optional<OpenOverlay> open;
+    NSAutoreleasePool* const pool = [NSAutoreleasePool new]; // the list holds its windows
+    NSArray* const windows = [NSApp windows];
+    for (NSUInteger i = 0; i < [windows count]; ++i) {
+        NSWindow* const window = [windows objectAtIndex:i];
+        if (![NSStringFromClass([window class]) isEqual:@"QM_R7_Overlay_Window"] || ![window isVisible])
+            continue;
+        const NSRect frame = [window frame];
+        open = {"editor", {frame.origin.x, frame.origin.y, frame.size.width, frame.size.height}};
     }
-    return std::nullopt;
+    [pool release];
+    return open;
 }
 
 } // namespace r7
