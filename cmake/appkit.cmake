@@ -9,6 +9,10 @@ if(APPLE)
   target_link_libraries(r7_appkit INTERFACE "-framework AppKit" "-framework AudioUnit" "-framework AudioToolbox"
     "-framework CoreFoundation")
   set(CMAKE_OBJCXX_STANDARD 20)
+  # The bundle's C++ is nobody else's, and another version of it may live in the same host.
+  set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+  set(CMAKE_OBJCXX_VISIBILITY_PRESET hidden)
+  set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
   return()
 endif()
 
