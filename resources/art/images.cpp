@@ -45,6 +45,10 @@ std::vector<ImageRow> all_images(const InterfaceDescription& description)
     std::vector<ImageRow> rows;
     rows.push_back({"r7-bg", description.panel_size, Canvas::Ground::opaque,
                     [&](Canvas& canvas) { paint_background(canvas, description); }});
+    rows.push_back({"status-bar",
+                    {description.panel_size.width, kStatusBarHeight},
+                    Canvas::Ground::opaque,
+                    [&](Canvas& canvas) { paint_status_bar(canvas, description); }});
     for (const KnobKind kind : kKnobKinds) {
         const KnobShape& shape = shape_of(kind);
         rows.push_back(

@@ -1,5 +1,5 @@
 // "r7-bg": the face plate. In order: the brushed plate, the recesses of the groups, what surrounds each
-// control, the displays' glass, the header.
+// control, the displays' glass, the header; and the status bar.
 #include "resources/art/plate.h"
 
 #include "resources/art/glass.h"
@@ -29,16 +29,19 @@ double grain(Point p, int scale)
     return std::lerp(noise(cell, row), noise(cell + 1, row), smooth_step(0.0, 1.0, along - cell));
 }
 
-void paint_plate(Canvas& canvas)
+// A brushed plate over the whole canvas, whose lower edge lies at `bottom` in a panel of that size.
+void paint_plate(Canvas& canvas, const Size& panel, double bottom)
 {
     const Size size = canvas.size();
     canvas.shade(
         canvas.bounds(),
         [&](Point p) {
-            const Tint base = mix(kPlateBottom, kPlateTop, p.y / size.height);
-            const double from_light =
-                std::hypot((p.x - 0.25 * size.width) / size.width, (p.y - 0.95 * size.height) / size.height);
-            const Tint plate = scaled(base, 1.10 - 0.22 * from_light + 0.035 * grain(p, canvas.scale()));
+            const double y = p.y + bottom;
+            const Tint base = mix(kPlateBottom, kPlateTop, y / panel.height);
+            const double from_light = std::hypot((p.x - 0.25 * panel.width) / panel.width,
+                                                 (y - 0.95 * panel.height) / panel.height);
+            const Tint plate =
+                scaled(base, 1.10 - 0.22 * from_light + 0.035 * grain({p.x, y}, canvas.scale()));
             // The edges are broken: the upper and left ones catch the light.
             if (p.y > size.height - 1.0 || p.x < 1.0) return mix(plate, kEdgeLight, 0.5);
             if (p.y < 1.0 || p.x > size.width - 1.0) return mix(plate, kEdgeDark, 0.6);
@@ -155,7 +158,7 @@ void paint_groups(Canvas& canvas)
 
 void paint_background(Canvas& canvas, const InterfaceDescription& description)
 {
-    paint_plate(canvas);
+    paint_plate(canvas, canvas.size(), 0.0);
     paint_groups(canvas);
     paint_knobs_surroundings(canvas, description);
     print_labels(canvas, description);
@@ -164,6 +167,13 @@ void paint_background(Canvas& canvas, const InterfaceDescription& description)
         if (const ViewDescription* const view = description.find(row.outlet))
             paint_display(canvas, view->frame, row, kTitleStyle);
     paint_header(canvas);
+}
+
+void paint_status_bar(Canvas& canvas, const InterfaceDescription& description)
+{
+    paint_plate(canvas, description.panel_size, -kStatusBarHeight);
+    const Rect room{16.0, 8.0, description.panel_size.width - 32.0, 9.0};
+    cut_recess(canvas, inset(room, -kGroupMargin), 5.0, 0.42);
 }
 
 } // namespace r7::art

@@ -24,7 +24,7 @@ const std::vector<std::string> kPatternNames = {"blue-bar", "LCD-grid"};
 
 std::vector<std::string> all_names()
 {
-    std::vector<std::string> names = {"r7-bg", "small-blue-dot_on", "small-blue-dot_off"};
+    std::vector<std::string> names = {"r7-bg", "status-bar", "small-blue-dot_on", "small-blue-dot_off"};
     for (const auto& list : {kLampNames, kKnobNames, kPatternNames})
         names.insert(names.end(), list.begin(), list.end());
     for (const std::string& family : kSwitchNames)
