@@ -1,8 +1,9 @@
-// Draws the panel's images from its interface description.
+// Draws the panel's images from its interface description, and the program's icon.
 #include "resources/art/images.h"
 #include "resources/art/lightball.h"
 #include "resources/art/mock.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <string>
 #include <vector>
@@ -14,7 +15,7 @@ using namespace r7::art;
 
 constexpr char kUsage[] =
     "usage: r7_art RESOURCES                      draw RESOURCES/images from RESOURCES/QmR7View.xml,\n"
-    "                                             and RESOURCES/lightball.tiff\n"
+    "                                             RESOURCES/icon-*.png and RESOURCES/lightball.tiff\n"
     "       r7_art RESOURCES --mock FILE [SCALE]  a picture of the whole panel\n";
 
 bool report(bool written, const std::filesystem::path& path)
@@ -35,6 +36,12 @@ bool draw_images(const InterfaceDescription& description, const std::filesystem:
             !write(drawn(row, 2), folder / (row.name + "@2x.png")))
             return false;
     return true;
+}
+
+bool draw_icons(const std::filesystem::path& folder)
+{
+    return std::ranges::all_of(
+        all_icons(), [&](const ImageRow& row) { return write(drawn(row, 1), folder / (row.name + ".png")); });
 }
 
 bool draw_lightball(const std::filesystem::path& path)
@@ -61,7 +68,8 @@ int main(int count, char** words)
     }
     const auto& description = std::get<InterfaceDescription>(read);
     if (!mock)
-        return draw_images(description, resources / "images") && draw_lightball(resources / "lightball.tiff")
+        return draw_images(description, resources / "images") && draw_icons(resources) &&
+                       draw_lightball(resources / "lightball.tiff")
                    ? 0
                    : 1;
     const int scale = arguments.size() == 4 && arguments[3] == "2" ? 2 : 1;

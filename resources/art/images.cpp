@@ -1,6 +1,7 @@
-// Every image of the panel, by name.
+// Every image of the panel and of the program, by name.
 #include "resources/art/images.h"
 
+#include "resources/art/icon.h"
 #include "resources/art/knobs.h"
 #include "resources/art/lamps.h"
 #include "resources/art/plate.h"
@@ -73,6 +74,19 @@ std::vector<ImageRow> all_images(const InterfaceDescription& description)
                  [kind = kind, tilt = tilt](Canvas& canvas) { paint_switch(canvas, kind, tilt); }});
     rows.push_back({"blue-bar", kBlueBarTile, clear, paint_blue_bar});
     rows.push_back({"LCD-grid", kLcdGridTile, clear, paint_lcd_grid});
+    return rows;
+}
+
+std::vector<ImageRow> all_icons()
+{
+    std::vector<ImageRow> rows;
+    for (const IconRow& icon : kIcons) {
+        const auto size = static_cast<double>(icon.size);
+        rows.push_back({"icon-" + std::to_string(icon.size),
+                        {size, size},
+                        Canvas::Ground::clear,
+                        [&icon](Canvas& canvas) { paint_icon(canvas, icon); }});
+    }
     return rows;
 }
 

@@ -4,6 +4,7 @@
 
 #include "resources/art/glass.h"
 #include "resources/art/header.h"
+#include "resources/art/knobs.h"
 #include "resources/art/lettering.h"
 #include "resources/art/palette.h"
 #include "resources/art/recess.h"
@@ -48,23 +49,6 @@ void paint_plate(Canvas& canvas, const Size& panel, double bottom)
             return plate;
         },
         1);
-}
-
-// The scale of a knob: 11 ticks over 270 degrees, the gap at the bottom.
-void print_scale(Canvas& canvas, Point center, const KnobShape& shape)
-{
-    cairo_t* const context = canvas.context();
-    cairo_set_line_cap(context, CAIRO_LINE_CAP_BUTT);
-    for (int tick = 0; tick <= 10; ++tick) {
-        const bool major = tick % 5 == 0;
-        const double angle = (225.0 - 27.0 * tick) * std::numbers::pi / 180.0;
-        const double from = shape.scale_radius, to = from + (major ? 4.5 : 3.0);
-        cairo_move_to(context, center.x + from * std::cos(angle), center.y + from * std::sin(angle));
-        cairo_line_to(context, center.x + to * std::cos(angle), center.y + to * std::sin(angle));
-        cairo_set_line_width(context, major ? 1.6 : 1.1);
-        canvas.set_source(major ? kTickMajor : kTickMinor);
-        cairo_stroke(context);
-    }
 }
 
 // The dark of the plate where a knob stands, and the knob's longer shadow.
