@@ -49,8 +49,8 @@ stays() {
     [[ $(xwininfo -id "$window" | grep Absolute) == "$before" ]]
 }
 
-open_panel() { # [OPTION]
-    timeout -k 5 60 "$program" --trace --scale 1 "$@" >"$work/trace" 2>"$work/complaint" &
+open_panel() { # OPTION
+    timeout -k 5 60 "$program" --scale 1 "$1" >"$work/trace" 2>"$work/complaint" &
     panel=$!
     within 30 is_shown || die "the window does not appear: $(<"$work/complaint")"
     within 30 stays || die "the window does not stay where it is"
@@ -124,7 +124,7 @@ without_places() { sed 's/^\(overlay open [a-z_]*\) .*/\1/' "$1"; }
 traced() { [[ $(wc -l <"$work/trace") -ge $1 ]]; }
 
 open_display
-open_panel
+open_panel --trace
 height_is 624
 find_frames delay_depth_knob output_level envelope_mode wave_shaper_one_a wave_shaper_one_display \
     pre_tone_control_display
