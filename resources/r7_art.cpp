@@ -15,7 +15,7 @@ using namespace r7::art;
 
 constexpr char kUsage[] =
     "usage: r7_art RESOURCES                      draw RESOURCES/images from RESOURCES/QmR7View.xml,\n"
-    "                                             RESOURCES/icon-*.png and RESOURCES/lightball.tiff\n"
+    "                                             and RESOURCES/lightball.tiff\n"
     "       r7_art RESOURCES --mock FILE [SCALE]  a picture of the whole panel\n";
 
 bool report(bool written, const std::filesystem::path& path)
@@ -35,11 +35,6 @@ bool draw_images(const InterfaceDescription& description, const std::filesystem:
         if (!write(drawn(row, 1), folder / (row.name + ".png")) ||
             !write(drawn(row, 2), folder / (row.name + "@2x.png")))
             return false;
-    return true;
-}
-
-bool draw_icons(const std::filesystem::path& folder)
-{
     return std::ranges::all_of(
         all_icons(), [&](const ImageRow& row) { return write(drawn(row, 1), folder / (row.name + ".png")); });
 }
@@ -68,8 +63,7 @@ int main(int count, char** words)
     }
     const auto& description = std::get<InterfaceDescription>(read);
     if (!mock)
-        return draw_images(description, resources / "images") && draw_icons(resources) &&
-                       draw_lightball(resources / "lightball.tiff")
+        return draw_images(description, resources / "images") && draw_lightball(resources / "lightball.tiff")
                    ? 0
                    : 1;
     const int scale = arguments.size() == 4 && arguments[3] == "2" ? 2 : 1;

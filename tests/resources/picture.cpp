@@ -53,9 +53,9 @@ Picture picture_of(cairo_surface_t* surface)
     return picture;
 }
 
-Picture image_named(const std::string& name, const std::string& folder)
+Picture image_named(const std::string& name)
 {
-    const std::string file = R7_RESOURCES "/" + folder + name + ".png";
+    const std::string file = R7_RESOURCES "/images/" + name + ".png";
     cairo_surface_t* const surface = cairo_image_surface_create_from_png(file.c_str());
     Picture picture = picture_of(surface);
     cairo_surface_destroy(surface);

@@ -27,9 +27,9 @@ struct Picture {
 
 /// The pixels of an image surface of Cairo's; empty where it is in error.
 Picture picture_of(cairo_surface_t* surface);
-/// The image of a name in a folder of the resources, "@2x" included where it is wanted; empty where there is
+/// The image of a name in the panel's resources, "@2x" included where it is wanted; empty where there is
 /// none.
-Picture image_named(const std::string& name, const std::string& folder = "images/");
+Picture image_named(const std::string& name);
 
 enum class Eye { grey, protan, deutan };
 

@@ -81,7 +81,7 @@ TEST(Plate, CommittedImagesAreUpToDate)
 {
     const InterfaceDescription panel = described_panel();
     for (const ImageRow& row : all_images(panel)) expect_up_to_date(row, image_named(row.name));
-    for (const ImageRow& row : all_icons()) expect_up_to_date(row, image_named(row.name, ""));
+    for (const ImageRow& row : all_icons()) expect_up_to_date(row, image_named(row.name));
 }
 
 } // namespace
