@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cctype>
 #include <span>
+#include <utility>
 
 namespace r7 {
 

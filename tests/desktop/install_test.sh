@@ -16,7 +16,8 @@ mv "$work/first" "$work/moved here"
 cd "$work/moved here"
 
 for file in bin/r7 share/man/man1/r7.1 share/applications/r7.desktop share/metainfo/org.example.r7.metainfo.xml \
-    share/icons/hicolor/{16x16,24x24,32x32,48x48,64x64,128x128,256x256}/apps/r7.png share/icons/hicolor/scalable/apps/r7.svg \
+    share/icons/hicolor/{16x16,24x24,32x32,48x48,64x64,128x128,256x256}/apps/r7.png \
+    share/icons/hicolor/scalable/apps/r7.svg \
     share/doc/r7/{README.md,CHANGELOG.md,FONT-LICENCE.txt,demonstration.session,docs/sessions.md}; do
     [[ -s $file ]] || die "$file is not installed"
 done
