@@ -55,6 +55,8 @@ ExitStatus show_panel(const WindowOptions& options, const std::filesystem::path&
     const auto panel = QmR7ViewFactory(bundle).uiViewForAudioUnit_withSize(unit->handle(), {});
     if (!panel) return no_resources(resources);
     announcer.begin(*panel);
+    // There is no sound here. A sine at full scale lets the waveshapers' displays show what a curve does.
+    for (const Stage stage : {Stage::one, Stage::two}) unit->take_level(stage, 1.0);
 
     bool open = true;
     bool lost = false;
