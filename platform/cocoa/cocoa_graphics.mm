@@ -69,7 +69,7 @@ void CocoaGraphics::anchor_patterns()
 
 void CocoaGraphics::clip_to(const Rect& rect)
 {
-    NSRectClip(is_finite(rect) ? placed(rect) : NSZeroRect);
+    NSRectClip(is_finite(rect) && !rect.is_empty() ? placed(rect) : NSZeroRect);
 }
 
 void CocoaGraphics::fill(const Path& path, const Color* color)
@@ -79,7 +79,7 @@ void CocoaGraphics::fill(const Path& path, const Color* color)
 
 void CocoaGraphics::stroke(const Path& path, const Color* color)
 {
-    if (!(path.line_width > 0.0) || !set(color)) return;
+    if (!(path.line_width > 0.0) || !std::isfinite(path.line_width) || !set(color)) return;
     NSBezierPath* const native = placed(path);
     if (kOnGNUstep && color->pattern_image())
         stroke_with_pattern(native, native_color(*color));
@@ -89,7 +89,7 @@ void CocoaGraphics::stroke(const Path& path, const Color* color)
 
 void CocoaGraphics::fill_rect(const Rect& rect, const Color* color, Compositing how)
 {
-    if (!is_finite(rect) || !set(color)) return;
+    if (!is_finite(rect) || rect.is_empty() || !set(color)) return;
     if (color->pattern_image())
         [NSBezierPath fillRect:placed(rect)];
     else
@@ -105,7 +105,7 @@ void CocoaGraphics::draw_image(const Image* image, Point origin, Compositing how
 
 void CocoaGraphics::draw_image_in_rect(const Image* image, const Rect& rect, Compositing how, double fraction)
 {
-    if (!image || !is_finite(rect) || rect.is_empty() || std::isnan(fraction)) return;
+    if (!image || !is_finite(rect) || rect.is_empty() || !std::isfinite(fraction)) return;
     [CocoaImage::of(*image).native() drawInRect:placed(rect)
                                        fromRect:NSZeroRect
                                       operation:operation(how)
@@ -137,7 +137,8 @@ NSBezierPath* CocoaGraphics::placed(const Path& path) const
         if (element.verb == Path::Verb::close) {
             if (begun) [native closePath];
         } else if (!is_finite(element.end())) {
-            continue;
+            // In place of a move that leads nowhere, the next point begins the subpath.
+            if (element.verb == Path::Verb::move) begun = false;
         } else if (element.verb == Path::Verb::move || !begun) {
             [native moveToPoint:r7::placed(element.end(), origin_)];
             begun = true;

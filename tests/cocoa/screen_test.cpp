@@ -6,6 +6,9 @@
 namespace r7 {
 namespace {
 
+// Where the panel shows a waveshaper's mode, from the upper left.
+constexpr Rect kModes[] = {{780.0, 290.0, 40.0, 25.0}, {780.0, 426.0, 40.0, 25.0}};
+
 using Pixels = std::vector<std::uint32_t>; // premultiplied ARGB, rows from the top
 
 // By how much a picture strays from another: outside the range of what that has within a pixel of each place.
@@ -149,8 +152,7 @@ TEST_F(CocoaScreen, AnOverlayTakesTheKeysAndLetsThePanelThrough)
 TEST_F(CocoaScreen, PanelAndEditorsLookAsTheyDoOffTheScreen)
 {
     const Size panel = twin->panel().bounds().size();
-    const Rect modes[] = {{780.0, 290.0, 40.0, 25.0}, {780.0, 426.0, 40.0, 25.0}};
-    expect_like_twin(panel, 0, modes, [&] { return shown(panel); });
+    expect_like_twin(panel, 0, kModes, [&] { return shown(panel); });
 
     const struct {
         Size size;
@@ -175,6 +177,26 @@ TEST_F(CocoaScreen, PanelAndEditorsLookAsTheyDoOffTheScreen)
         expect_like_twin(size, 2, texts, seen); // each layer is rounded to whole levels
         play(close);
     }
+}
+
+TEST_F(CocoaScreen, WhatCannotBeDrawnHarmsNothing)
+{
+    for (const auto& [parameter, value] : {std::pair(36u, "nan"),
+                                           {37u, "inf"},
+                                           {39u, "1e30"},
+                                           {40u, "-inf"},
+                                           {0u, "nan"},
+                                           {7u, "inf"},
+                                           {15u, "-1e30"},
+                                           {31u, "nan"}}) {
+        ASSERT_EQ(host.tell("automate " + std::to_string(parameter) + ' ' + value), "done");
+        twin->unit().automate(parameter, std::strtof(value, nullptr));
+    }
+    const Size panel = twin->panel().bounds().size();
+    const Pixels before = painted(panel);
+    twin->advance(std::chrono::milliseconds(100));
+    EXPECT_NE(painted(panel), before);
+    expect_like_twin(panel, 0, kModes, [&] { return shown(panel); });
 }
 
 TEST_F(CocoaScreen, AutomationOnAnotherThreadTurnsAKnob)
