@@ -7,6 +7,8 @@
 #include <unistd.h>
 
 #include <csignal>
+#include <cstdlib>
+#include <stdexcept>
 #include <utility>
 
 namespace r7 {
