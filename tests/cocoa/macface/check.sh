@@ -11,9 +11,9 @@ appkit="$(gnustep-config --objc-flags | sed 's/-MMD\|-MP\|-I\. \|-O2\|-g \|-fno-
 
 cmake -S "$top" -B "$build" -G Ninja --log-level=WARNING -DCMAKE_SYSTEM_NAME=Darwin -DCMAKE_OSX_SYSROOT=/ \
     -DCMAKE_BUILD_TYPE=None -DCMAKE_INSTALL_NAME_TOOL=true \
-    -DCMAKE_CXX_COMPILER="$clang" -DCMAKE_CXX_COMPILER_WORKS=ON -DCMAKE_CXX_FLAGS="$declarations" \
+    -DCMAKE_CXX_COMPILER="$clang" -DCMAKE_CXX_COMPILER_WORKS=ON -DCMAKE_CXX_FLAGS="$declarations -Werror" \
     -DCMAKE_OBJCXX_COMPILER="$clang" -DCMAKE_OBJCXX_COMPILER_WORKS=ON \
-    -DCMAKE_OBJCXX_FLAGS="$declarations $appkit -idirafter $(gcc -print-file-name=include) -fobjc-runtime=macosx-11.0"
+    -DCMAKE_OBJCXX_FLAGS="$declarations $appkit -idirafter $(gcc -print-file-name=include) -fobjc-runtime=macosx-11.0 -Werror"
 cd "$build"
 ninja -t targets all | sed -n 's/\.o: .*/.o/p' | xargs ninja
 test -f QmR7View.bundle/Contents/Info.plist
