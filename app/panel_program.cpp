@@ -1,8 +1,10 @@
 // `r7`: the panel in a window.
 #include "app/panel_program.h"
 
+#include "app/curve_announcer.h"
 #include "app/open_overlay.h"
 #include "app/resources.h"
+#include "app/status_line.h"
 #include "app/stop_signals.h"
 #include "app/transcript.h"
 #include "host/view_factory.h"
@@ -12,6 +14,7 @@
 
 #include <csignal>
 #include <cstdio>
+#include <optional>
 
 namespace r7 {
 
@@ -47,14 +50,20 @@ ExitStatus show_panel(const WindowOptions& options, const std::filesystem::path&
     const SteadyClock clock;
     RunLoop loop(clock);
     Transcript transcript(stdout);
-    const auto unit = EmbeddedUnit::create(options.trace ? &transcript : nullptr);
-    const auto panel = QmR7ViewFactory(std::make_shared<const Bundle>(resources))
-                           .uiViewForAudioUnit_withSize(unit->handle(), {});
+    CurveAnnouncer announcer(options.trace ? &transcript : nullptr);
+    const auto unit = EmbeddedUnit::create(&announcer);
+    const auto bundle = std::make_shared<const Bundle>(resources);
+    const auto panel = QmR7ViewFactory(bundle).uiViewForAudioUnit_withSize(unit->handle(), {});
     if (!panel) return no_resources(resources);
+    announcer.begin(*panel);
+    // There is no sound here. A sine at full scale lets the waveshapers' displays show what a curve does.
+    for (const Stage stage : {Stage::one, Stage::two}) unit->take_level(stage, 1.0);
 
     bool open = true;
     bool lost = false;
-    X11WindowOptions wanted{.size = panel->bounds().size(), .title = "R7", .class_name = "r7"};
+    Size size = panel->bounds().size();
+    if (options.status) size.height += StatusLine::kHeight;
+    X11WindowOptions wanted{.size = size, .title = "R7", .class_name = "r7"};
     wanted.scale = options.scale.value_or(0.0);
     wanted.close_requested = [&open] { open = false; };
     wanted.connection_lost = [&open, &lost] {
@@ -65,7 +74,11 @@ ExitStatus show_panel(const WindowOptions& options, const std::filesystem::path&
     std::signal(SIGPIPE, SIG_IGN);
     const auto [window, status] = X11Window::open(std::move(wanted));
     if (!window) return no_display(reason(status));
-    window->window().set_content_view(panel);
+    std::optional<StatusLine> status_line;
+    if (options.status)
+        status_line.emplace(window->window(), panel, *unit, *bundle);
+    else
+        window->window().set_content_view(panel);
     loop.add(window);
     const auto signals = std::make_shared<StopSignals>([&open] { open = false; });
     loop.add(signals);

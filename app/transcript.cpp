@@ -27,6 +27,7 @@ void Transcript::line(std::string_view text)
 
 void Transcript::note_overlay()
 {
+    if (!ask_overlay_) return;
     const auto before = std::exchange(overlay_, ask_overlay_());
     const bool is_the_same = before && overlay_ && before->editor == overlay_->editor;
     if (before && !is_the_same) print("overlay close");

@@ -39,6 +39,8 @@ is_managed() { xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'windo
 
 is_shown() { window=$(xdotool search --class '^r7$' 2>/dev/null | tail -n 1) && xwininfo -id "$window" | grep -q IsViewable; }
 
+height_is() { xwininfo -id "$window" | grep -q "Height: $1$" || die "the window is not $1 pixels high"; }
+
 # A window manager may move it after it appeared.
 stays() {
     local before
@@ -47,8 +49,8 @@ stays() {
     [[ $(xwininfo -id "$window" | grep Absolute) == "$before" ]]
 }
 
-open_panel() {
-    timeout -k 5 60 "$program" --trace --scale 1 >"$work/trace" 2>"$work/complaint" &
+open_panel() { # OPTION
+    timeout -k 5 60 "$program" --scale 1 "$1" >"$work/trace" 2>"$work/complaint" &
     panel=$!
     within 30 is_shown || die "the window does not appear: $(<"$work/complaint")"
     within 30 stays || die "the window does not stay where it is"
@@ -122,7 +124,8 @@ without_places() { sed 's/^\(overlay open [a-z_]*\) .*/\1/' "$1"; }
 traced() { [[ $(wc -l <"$work/trace") -ge $1 ]]; }
 
 open_display
-open_panel
+open_panel --trace
+height_is 624
 find_frames delay_depth_knob output_level envelope_mode wave_shaper_one_a wave_shaper_one_display \
     pre_tone_control_display
 press delay_depth_knob 40
@@ -175,7 +178,8 @@ else
     expect_end 0 "ended by a signal"
 fi
 
-open_panel
+open_panel --no-status
+height_is 600
 press delay_depth_knob 40
 kill "$server"
 expect_end 3 "the display is gone in mid-drag"

@@ -45,26 +45,30 @@ TEST(Plate, EveryKnobHasAReadableLabelThatTouchesNoNeighbour)
     }
 }
 
-// A changed frame or drawing whose images were not drawn anew is found here, at both densities. Another
-// machine's arithmetic may round a component the other way.
+// A changed frame or drawing whose images were not drawn anew is found here. Another machine's arithmetic may
+// round a component the other way.
+void expect_up_to_date(const ImageRow& row, int density)
+{
+    const Canvas canvas = drawn(row, density);
+    const Picture fresh = picture_of(cairo_get_target(canvas.context()));
+    const Picture committed = image_named(density == 1 ? row.name : row.name + "@2x");
+    ASSERT_EQ(fresh.width, committed.width) << row.name;
+    ASSERT_EQ(fresh.pixels.size(), committed.pixels.size()) << row.name;
+    std::size_t different = 0;
+    for (std::size_t i = 0; i < fresh.pixels.size(); ++i)
+        for (std::size_t k = 0; k < 4; ++k) {
+            const double step = std::abs(fresh.pixels[i][k] - committed.pixels[i][k]);
+            if (step * fresh.pixels[i][3] > 2.5 / 255.0) ++different;
+        }
+    EXPECT_LE(different, fresh.pixels.size() / 1000) << row.name;
+}
+
 TEST(Plate, CommittedImagesAreUpToDate)
 {
     const InterfaceDescription panel = described_panel();
     for (const ImageRow& row : all_images(panel))
-        for (const int density : {1, 2}) {
-            const Canvas canvas = drawn(row, density);
-            const Picture fresh = picture_of(cairo_get_target(canvas.context()));
-            const Picture committed = image_named(density == 1 ? row.name : row.name + std::string("@2x"));
-            ASSERT_EQ(fresh.width, committed.width) << row.name;
-            ASSERT_EQ(fresh.pixels.size(), committed.pixels.size()) << row.name;
-            std::size_t different = 0;
-            for (std::size_t i = 0; i < fresh.pixels.size(); ++i)
-                for (std::size_t k = 0; k < 4; ++k) {
-                    const double step = std::abs(fresh.pixels[i][k] - committed.pixels[i][k]);
-                    if (step * fresh.pixels[i][3] > 2.5 / 255.0) ++different;
-                }
-            EXPECT_LE(different, fresh.pixels.size() / 1000) << row.name;
-        }
+        for (const int density : {1, 2}) expect_up_to_date(row, density);
+    for (const ImageRow& row : all_icons()) expect_up_to_date(row, 1);
 }
 
 } // namespace
