@@ -21,7 +21,7 @@
 {
     // One for the process, so that all panels share their images.
     static const auto resources = std::make_shared<const r7::Bundle>(
-        [[[NSBundle bundleForClass:[self class]] resourcePath] UTF8String]);
+        r7::from_native([[NSBundle bundleForClass:[self class]] resourcePath]));
     const auto panel = r7::QmR7ViewFactory(resources).uiViewForAudioUnit_withSize(
         unit, {preferredSize.width, preferredSize.height});
     return panel ? [[[QmR7View alloc] initWithPanel:panel] autorelease] : nil;
