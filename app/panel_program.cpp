@@ -11,6 +11,7 @@
 
 #include <csignal>
 #include <cstdio>
+#include <vector>
 
 namespace r7 {
 
@@ -33,6 +34,15 @@ const char* reason(X11OpenStatus status)
     return "";
 }
 
+// The program's picture, in the sizes that the resources have.
+std::vector<ImageRef> icons_of(const Bundle& bundle)
+{
+    std::vector<ImageRef> icons;
+    for (const char* name : {"icon-16", "icon-24", "icon-32", "icon-48", "icon-64", "icon-128", "icon-256"})
+        icons.push_back(bundle.image_resource(name));
+    return icons;
+}
+
 ExitStatus no_display(const char* why)
 {
     std::fprintf(stderr, "r7: %s\n", why);
@@ -47,14 +57,15 @@ ExitStatus show_panel(const WindowOptions& options, const std::filesystem::path&
     RunLoop loop(clock);
     Transcript transcript(stdout);
     const auto unit = EmbeddedUnit::create(options.trace ? &transcript : nullptr);
-    const auto panel = QmR7ViewFactory(std::make_shared<const Bundle>(resources))
-                           .uiViewForAudioUnit_withSize(unit->handle(), {});
+    const auto bundle = std::make_shared<const Bundle>(resources);
+    const auto panel = QmR7ViewFactory(bundle).uiViewForAudioUnit_withSize(unit->handle(), {});
     if (!panel) return no_resources(resources);
 
     bool open = true;
     bool lost = false;
     X11WindowOptions wanted{.size = panel->bounds().size(), .title = "R7", .class_name = "r7"};
     wanted.scale = options.scale.value_or(0.0);
+    wanted.icons = icons_of(*bundle);
     wanted.close_requested = [&open] { open = false; };
     wanted.connection_lost = [&open, &lost] {
         open = false;

@@ -2,11 +2,13 @@
 #pragma once
 
 #include "platform/geometry.h"
+#include "platform/image.h"
 
 #include <chrono>
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace r7 {
 
@@ -15,6 +17,9 @@ struct X11WindowOptions {
     double scale = 0.0;       ///< pixels for a point, above 0; 0: the desktop's
     std::string title{};      ///< UTF-8; of a top-level window
     std::string class_name{}; ///< both parts of WM_CLASS; without zero bytes
+    /// The window's picture in lists and bars, in several sizes; those that are null, or too large for a
+    /// request of the display, are left out.
+    std::vector<ImageRef> icons{};
     std::string display{};    ///< name of the display; empty: the one that the environment names
     std::uint32_t parent = 0; ///< the window to be embedded in, by its number; 0: a top-level window
 

@@ -114,6 +114,7 @@ public:
         xcb_send_event(get(), 0, window, 0, reinterpret_cast<const char*>(&message));
         focus();
     }
+    xcb_atom_t atom(std::string_view name) const { return connection_->atom(name); }
     void set_resources(std::string_view text) const
     {
         xcb_change_property(get(), XCB_PROP_MODE_REPLACE, root(), XCB_ATOM_RESOURCE_MANAGER, XCB_ATOM_STRING,

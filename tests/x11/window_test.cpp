@@ -176,5 +176,24 @@ TEST_F(X11Windows, CursorIsThePicturePixelByPixel)
     }
 }
 
+TEST_F(X11Windows, IconsAreStraightColoursInTheSizesThatThereAre)
+{
+    const auto icon = [](double size) {
+        return Image::painted({size, size}, [](Graphics& graphics) {
+            const ColorRef color = Color::device_rgba(1.0, 0.4, 0.0, 0.5);
+            graphics.fill_rect({0.0, 0.0, 1.0, 1.0}, color.get(), Compositing::source_over);
+        });
+    };
+    Shown shown(loop, {.icons = {icon(2.0), nullptr, icon(4096.0), icon(1.0)}});
+    ASSERT_TRUE(settle(shown));
+    const auto asked = xcb_get_property(display.get(), 0, shown.x11->native_id(),
+                                        display.atom("_NET_WM_ICON"), XCB_ATOM_CARDINAL, 0, 100);
+    const XcbPointer<xcb_get_property_reply_t> reply(xcb_get_property_reply(display.get(), asked, nullptr));
+    const auto* words = static_cast<const std::uint32_t*>(xcb_get_property_value(reply.get()));
+    constexpr std::uint32_t kColor = 0x80ff6600;
+    EXPECT_EQ(std::vector(words, words + reply->value_len),
+              (std::vector<std::uint32_t>{2, 2, 0, 0, kColor, 0, 1, 1, kColor}));
+}
+
 } // namespace
 } // namespace r7::testing_x11
