@@ -7,6 +7,7 @@
 #include <chrono>
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -23,8 +24,9 @@ struct X11WindowOptions {
     std::string display{};    ///< name of the display; empty: the one that the environment names
     std::uint32_t parent = 0; ///< the window to be embedded in, by its number; 0: a top-level window
 
-    /// The longest time between the presses of a multiple click, by the display's clock.
-    std::chrono::milliseconds click_interval{400};
+    /// The longest time between the presses of a multiple click, by the display's clock; none: the desktop's,
+    /// or 400 ms where it has none.
+    std::optional<std::chrono::milliseconds> click_interval{};
 
     /// The user asks to close the window, which stays as it is. May destroy the window.
     std::function<void()> close_requested{};

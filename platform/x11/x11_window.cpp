@@ -95,7 +95,7 @@ X11Window::Opened X11Window::open(X11WindowOptions options)
 X11Window::X11Window(X11WindowOptions options, double scale)
     : options_(std::move(options)),
       back_buffer_(options_.size, scale),
-      pointer_(back_buffer_.height(), scale, options_.click_interval),
+      pointer_(back_buffer_.height(), scale),
       window_(std::make_shared<Window>(Rect{0.0, 0.0, options_.size.width, options_.size.height}))
 {
     window_->set_backend(this);
@@ -112,6 +112,7 @@ bool X11Window::create(std::unique_ptr<X11Connection> connection)
                                       static_cast<std::uint16_t>(back_buffer_.height()));
     if (native_id_ == XCB_WINDOW_NONE) return false;
     native_ = std::make_unique<Native>(std::move(connection), native_id_, scale());
+    update_click_interval();
     // Flushed by the first turn.
     xcb_map_window(native_->c, native_id_);
     return true;
@@ -175,6 +176,9 @@ void X11Window::handle(const Event& event)
     case XCB_UNMAP_NOTIFY:
         exposed_ = false;
         break;
+    case XCB_PROPERTY_NOTIFY: // of the desktop's settings
+        update_click_interval();
+        break;
     case XCB_CONFIGURE_NOTIFY:
     case XCB_REPARENT_NOTIFY:
         moved_ = true;
@@ -190,9 +194,12 @@ void X11Window::handle(const Event& event)
     }
     case XCB_BUTTON_PRESS: {
         const auto& e = event.as<xcb_button_press_event_t>();
-        if (const auto press = pointer_.press(e.detail, pointer_of(e)))
+        const X11Pointer pointer = pointer_of(e);
+        // Nothing else tells where a window is whose surroundings were moved.
+        place(e.root_x - e.event_x, e.root_y - e.event_y);
+        if (const auto press = pointer_.press(e.detail, pointer))
             window_->press(press->button, press->event);
-        else if (const auto notch = pointer_.scroll(e.detail, pointer_of(e)))
+        else if (const auto notch = pointer_.scroll(e.detail, pointer))
             window_->scroll(*notch);
         break;
     }
@@ -211,14 +218,26 @@ void X11Window::handle(const Event& event)
     }
 }
 
+void X11Window::update_click_interval()
+{
+    const auto time =
+        options_.click_interval ? options_.click_interval : native_->connection->double_click_time();
+    pointer_.set_click_interval(time.value_or(X11PointerTracker::kClickInterval));
+}
+
 void X11Window::update_frame()
 {
-    const xcb_screen_t& screen = native_->connection->screen();
     const XcbPointer<xcb_translate_coordinates_reply_t> corner(xcb_translate_coordinates_reply(
-        native_->c, xcb_translate_coordinates(native_->c, native_id_, screen.root, 0, 0), nullptr));
-    if (!corner) return;
-    window_->set_frame_origin({corner->dst_x / scale(),
-                               (screen.height_in_pixels - corner->dst_y - back_buffer_.height()) / scale()});
+        native_->c,
+        xcb_translate_coordinates(native_->c, native_id_, native_->connection->screen().root, 0, 0),
+        nullptr));
+    if (corner) place(corner->dst_x, corner->dst_y);
+}
+
+void X11Window::place(int left, int top)
+{
+    const int bottom = native_->connection->screen().height_in_pixels - top - back_buffer_.height();
+    window_->set_frame_origin({left / scale(), bottom / scale()});
 }
 
 void X11Window::paint()

@@ -60,7 +60,10 @@ private:
     bool create(std::unique_ptr<X11Connection> connection);
 
     void handle(const Event& event);
+    void update_click_interval();
     void update_frame();
+    // The window's upper left corner, in pixels from the screen's.
+    void place(int left, int top);
     void paint();
     void lose();
 

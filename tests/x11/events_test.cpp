@@ -1,4 +1,4 @@
-// Real events of a real server: presses, drags, clicks, keys held, wheel.
+// Real events of a real server: presses, drags and clicks.
 #include "tests/x11/rig.h"
 
 #include <poll.h>
@@ -38,23 +38,27 @@ TEST_F(X11Events, FirstPressedOfTwoButtonsDragsEvenOutsideTheWindow)
                                    "up -10,-41 by 0,0 x1\n");
 }
 
-TEST_F(X11Events, ModifiersAndTheWheelsDirectionsAreNamed)
+TEST_F(X11Events, ClicksCountOnWithinTheDesktopsTimeAsItIsNow)
 {
-    const std::pair<int, std::string_view> kCases[] = {
-        {XCB_MAP_INDEX_SHIFT, " 0x20000\n"}, {XCB_MAP_INDEX_CONTROL, " 0x40000\n"},
-        {XCB_MAP_INDEX_1, " 0x80000\n"},     {XCB_MAP_INDEX_5, " 0x80000\n"},
-        {XCB_MAP_INDEX_4, " 0x100000\n"},
-    };
-    for (const auto& [modifier, flags] : kCases) {
-        display.hold(modifier, true);
-        display.click(4);
-        display.hold(modifier, false);
-        EXPECT_EQ(heard_until("wheel"), "wheel 11,129 by 0,1" + std::string(flags)) << modifier;
+    const xcb_atom_t settings = display.atom("_XSETTINGS_SETTINGS");
+    const xcb_window_t manager = display.make_window({0, 0, 10, 10});
+    xcb_set_selection_owner(display.get(), manager, display.atom("_XSETTINGS_S0"), XCB_CURRENT_TIME);
+    display.set_property(manager, settings, settings, desktop_settings(true, 60));
+    Shown other(loop);
+    ASSERT_TRUE(settle(other, 600, 400));
+    display.move_to(611, 420);
+    for (const auto& [time, clicks] : {std::pair{60U, "x1\n"}, {5000U, "x2\n"}}) {
+        display.move_by(20, 0);
+        display.set_property(manager, settings, settings, desktop_settings(false, time));
+        for (const std::uint32_t delay : {0U, 100U}) {
+            display.press(1, delay);
+            display.release(1);
+            EXPECT_TRUE(turn_until([&] { return other.view->has_heard("up"); }));
+            EXPECT_TRUE(other.view->has_heard(delay ? clicks : "x1\n")) << time;
+            other.view->heard();
+        }
     }
-    for (const int button : {5, 6, 7}) display.click(button);
-    EXPECT_EQ(heard_until("by 1,0"), "wheel 11,129 by 0,-1\n"
-                                     "wheel 11,129 by -1,0\n"
-                                     "wheel 11,129 by 1,0\n");
+    display.destroy(manager);
 }
 
 TEST_F(X11Events, PixelsAreHalfPointsAtTwiceTheScale)

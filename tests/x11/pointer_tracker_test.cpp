@@ -1,8 +1,8 @@
-// Counting clicks by time and distance, and the desktop's scale: what needs no display.
-#include "platform/x11/desktop_scale.h"
-#include "platform/x11/pointer_tracker.h"
+// Counting clicks by time and distance, and the desktop's settings: what needs no display.
+#include "platform/x11/desktop_settings.h"
+#include "tests/x11/rig.h"
 
-#include <gtest/gtest.h>
+#include <tuple>
 
 namespace r7 {
 namespace {
@@ -32,7 +32,7 @@ TEST(X11PointerTracker, CountsClicksThatAreCloseInTimeAndPlace)
         {{1, 50, 0, 1}, {2, 50, 10, 0}, {4, 50, 20, 0}, {1, 50, 30, 2}},
     };
     for (const auto& steps : kCases) {
-        X11PointerTracker tracker(100, 2.0, std::chrono::milliseconds(400));
+        X11PointerTracker tracker(100, 2.0);
         for (const Step& step : steps) {
             const auto press = tracker.press(step.button, at(step.x, step.time));
             EXPECT_EQ(press ? press->event.click_count : 0, step.clicks) << step.x << " at " << step.time;
@@ -45,7 +45,7 @@ TEST(X11PointerTracker, CountsClicksThatAreCloseInTimeAndPlace)
 TEST(X11PointerTracker, DragThatStraysEndsTheCountEvenWhenItComesBack)
 {
     for (const auto& [strayed_to, clicks] : {std::pair{58, 2}, {59, 1}}) {
-        X11PointerTracker tracker(100, 2.0, std::chrono::milliseconds(400));
+        X11PointerTracker tracker(100, 2.0);
         tracker.press(1, at(50, 0));
         tracker.move(at(strayed_to, 10, kHeld1));
         tracker.move(at(50, 20, kHeld1));
@@ -57,7 +57,7 @@ TEST(X11PointerTracker, DragThatStraysEndsTheCountEvenWhenItComesBack)
 TEST(X11PointerTracker, MotionBelongsToTheButtonsThatTheDisplaySaysAreHeld)
 {
     constexpr std::uint16_t kHeld3 = 0x400;
-    X11PointerTracker tracker(100, 1.0, std::chrono::milliseconds(400));
+    X11PointerTracker tracker(100, 1.0);
     EXPECT_FALSE(tracker.move(at(50, 0)));
     tracker.press(3, at(50, 0));
     // Its release never came: another program took the pointer meanwhile.
@@ -68,7 +68,52 @@ TEST(X11PointerTracker, MotionBelongsToTheButtonsThatTheDisplaySaysAreHeld)
     EXPECT_EQ(tracker.move(at(73, 20, kHeld3))->button, MouseButton::secondary);
 }
 
-TEST(X11DesktopScale, IsTheDensitySettingOverNinetySix)
+TEST(X11PointerTracker, ModifiersAndTheWheelsDirectionsAreNamed)
+{
+    constexpr Modifiers kNone{}, kOption = Modifiers::option;
+    const struct {
+        std::uint8_t button;
+        int state;
+        double dx, dy;
+        Modifiers modifiers;
+    } kCases[] = {
+        {4, 0, 0.0, 1.0, kNone},
+        {5, XCB_MOD_MASK_SHIFT, 0.0, -1.0, Modifiers::shift},
+        {6, XCB_MOD_MASK_CONTROL, -1.0, 0.0, Modifiers::control},
+        {7, XCB_MOD_MASK_1, 1.0, 0.0, kOption},
+        {4, XCB_MOD_MASK_4, 0.0, 1.0, kOption},
+        {4, XCB_MOD_MASK_5 | XCB_MOD_MASK_SHIFT, 0.0, 1.0, kOption | Modifiers::shift},
+        {4, XCB_MOD_MASK_LOCK | XCB_MOD_MASK_2 | XCB_MOD_MASK_3, 0.0, 1.0, kNone},
+    };
+    const X11PointerTracker tracker(100, 1.0);
+    for (const auto& [button, state, dx, dy, modifiers] : kCases) {
+        const auto notch = tracker.scroll(button, at(50, 0, static_cast<std::uint16_t>(state)));
+        ASSERT_TRUE(notch);
+        EXPECT_EQ((std::tuple{notch->delta_x, notch->delta_y, notch->modifiers}),
+                  (std::tuple{dx, dy, modifiers}))
+            << state;
+    }
+}
+
+TEST(X11DesktopSettings, DoubleClickTimeIsFoundInWholeBytesOnly)
+{
+    using std::chrono::milliseconds;
+    for (const bool highest_first : {false, true}) {
+        const std::string bytes = testing_x11::desktop_settings(highest_first, 350);
+        EXPECT_EQ(double_click_time_of(bytes), milliseconds(350));
+        for (std::size_t size = 0; size < bytes.size(); ++size)
+            EXPECT_EQ(double_click_time_of({bytes.data(), size}), std::nullopt) << size;
+        for (const std::uint32_t refused : {0U, 49U, 5001U, ~0U})
+            EXPECT_EQ(double_click_time_of(testing_x11::desktop_settings(highest_first, refused)),
+                      std::nullopt);
+    }
+    std::string unknown = testing_x11::desktop_settings(false, 350);
+    unknown[12] = 3; // the first one's type
+    EXPECT_EQ(double_click_time_of(unknown), std::nullopt);
+    EXPECT_EQ(double_click_time_of(std::string(12, '\xff')), std::nullopt);
+}
+
+TEST(X11DesktopSettings, ScaleIsTheDensitySettingOverNinetySix)
 {
     const std::pair<std::string_view, double> kCases[] = {
         {"", 1.0},

@@ -1,5 +1,4 @@
-// Windows and a loop on the display that the tests run on, and the other side: another program, a mouse, a
-// keyboard.
+// Windows and a loop on the display that the tests run on, and the other side: another program and a mouse.
 #pragma once
 
 #include "platform/graphics.h"
@@ -8,6 +7,7 @@
 #include "platform/x11/x11_window.h"
 
 #include <gtest/gtest.h>
+#include <xcb/xfixes.h>
 #include <xcb/xtest.h>
 
 #include <array>
@@ -42,25 +42,36 @@ public:
         return reply->focus;
     }
 
-    // Mouse and keyboard.
+    // Mouse.
     void move_to(int x, int y) const { input(XCB_MOTION_NOTIFY, 0, x, y); }
-    void press(int button) const { input(XCB_BUTTON_PRESS, button); }
-    void release(int button) const { input(XCB_BUTTON_RELEASE, button); }
-    void click(int button) const
+    void move_by(int x, int y) const { input(XCB_MOTION_NOTIFY, 1, x, y); }
+    /// After a while, by the display's clock.
+    void press(int button, std::uint32_t milliseconds = 0) const
     {
-        press(button);
-        release(button);
+        input(XCB_BUTTON_PRESS, button, 0, 0, milliseconds);
     }
-    /// Presses or releases the first key of a modifier, numbered as in XCB_MAP_INDEX_SHIFT and on.
-    void hold(int modifier, bool down) const
+    void release(int button) const { input(XCB_BUTTON_RELEASE, button); }
+    std::pair<int, int> pointer() const
     {
-        const XcbPointer<xcb_get_modifier_mapping_reply_t> map(
-            xcb_get_modifier_mapping_reply(get(), xcb_get_modifier_mapping(get()), nullptr));
-        const xcb_keycode_t* key =
-            xcb_get_modifier_mapping_keycodes(map.get()) + modifier * map->keycodes_per_modifier;
-        for (int i = 1; *key == 0 && i < map->keycodes_per_modifier; ++i) ++key;
-        ASSERT_NE(*key, 0) << "no key is modifier " << modifier;
-        input(down ? XCB_KEY_PRESS : XCB_KEY_RELEASE, *key);
+        const XcbPointer<xcb_query_pointer_reply_t> at(
+            xcb_query_pointer_reply(get(), xcb_query_pointer(get(), root()), nullptr));
+        return {at->root_x, at->root_y};
+    }
+    /// The pointer's picture, as the XFIXES extension reads it back.
+    struct Cursor {
+        int width, height, hot_x, hot_y;
+        Pixels pixels; // with alpha
+        bool operator==(const Cursor&) const = default;
+    };
+    Cursor cursor() const
+    {
+        const XcbPointer<xcb_xfixes_query_version_reply_t> version(
+            xcb_xfixes_query_version_reply(get(), xcb_xfixes_query_version(get(), 4, 0), nullptr));
+        const XcbPointer<xcb_xfixes_get_cursor_image_reply_t> reply(
+            xcb_xfixes_get_cursor_image_reply(get(), xcb_xfixes_get_cursor_image(get()), nullptr));
+        const std::uint32_t* pixels = xcb_xfixes_get_cursor_image_cursor_image(reply.get());
+        return {reply->width, reply->height, reply->xhot, reply->yhot,
+                Pixels(pixels, pixels + reply->width * reply->height)};
     }
 
     // Another program's windows.
@@ -109,17 +120,23 @@ public:
         message.response_type = XCB_CLIENT_MESSAGE;
         message.format = 32;
         message.window = window;
-        message.type = connection_->atom("WM_PROTOCOLS");
-        message.data.data32[0] = connection_->atom("WM_DELETE_WINDOW");
+        message.type = atom("WM_PROTOCOLS");
+        message.data.data32[0] = atom("WM_DELETE_WINDOW");
         xcb_send_event(get(), 0, window, 0, reinterpret_cast<const char*>(&message));
         focus();
     }
-    xcb_atom_t atom(std::string_view name) const { return connection_->atom(name); }
-    void set_resources(std::string_view text) const
+    void set_property(xcb_window_t window, xcb_atom_t name, xcb_atom_t type, std::string_view bytes) const
     {
-        xcb_change_property(get(), XCB_PROP_MODE_REPLACE, root(), XCB_ATOM_RESOURCE_MANAGER, XCB_ATOM_STRING,
-                            8, static_cast<std::uint32_t>(text.size()), text.data());
+        xcb_change_property(get(), XCB_PROP_MODE_REPLACE, window, name, type, 8,
+                            static_cast<std::uint32_t>(bytes.size()), bytes.data());
         focus();
+    }
+    xcb_atom_t atom(std::string_view name) const { return connection_->atom(name); }
+    xcb_window_t owner(std::string_view selection) const
+    {
+        const XcbPointer<xcb_get_selection_owner_reply_t> reply(
+            xcb_get_selection_owner_reply(get(), xcb_get_selection_owner(get(), atom(selection)), nullptr));
+        return reply->owner;
     }
     /// Its pixels, or none where it cannot be seen.
     Pixels pixels_of(xcb_window_t window, std::uint16_t width, std::uint16_t height) const
@@ -131,9 +148,9 @@ public:
     }
 
 private:
-    void input(std::uint8_t type, int detail, int x = 0, int y = 0) const
+    void input(std::uint8_t type, int detail, int x = 0, int y = 0, std::uint32_t delay = 0) const
     {
-        xcb_test_fake_input(get(), type, static_cast<std::uint8_t>(detail), XCB_CURRENT_TIME, root(),
+        xcb_test_fake_input(get(), type, static_cast<std::uint8_t>(detail), delay, root(),
                             static_cast<std::int16_t>(x), static_cast<std::int16_t>(y), 0);
         focus(); // answered when the server has done all before
     }
@@ -183,7 +200,7 @@ private:
     std::string heard_;
 };
 
-/// An opened window of 200 by 150 points and its view; clicks count on for as long as a test may take.
+/// An opened window of 200 by 150 points and its view.
 struct Shown {
     std::shared_ptr<X11Window> x11;
     std::shared_ptr<Listener> view;
@@ -193,7 +210,6 @@ struct Shown {
     explicit Shown(RunLoop& loop, X11WindowOptions options = {})
     {
         if (options.size == Size{}) options.size = {200.0, 150.0};
-        options.click_interval = std::chrono::hours(1);
         options.connection_lost = [this] { ++lost; };
         is_embedded = options.parent != 0;
         x11 = X11Window::open(options).window;
@@ -216,6 +232,26 @@ struct Shown {
         return pixels_from(bytes.data(), bytes.size() / 4);
     }
 };
+
+/// What a settings manager publishes: a text, a colour and the time of a double click.
+inline std::string desktop_settings(bool highest_first, std::uint32_t milliseconds)
+{
+    std::string bytes;
+    const auto add = [&](std::uint32_t number, int size) {
+        for (int i = 0; i < size; ++i)
+            bytes += static_cast<char>(number >> 8 * (highest_first ? size - 1 - i : i));
+    };
+    const auto begin = [&](std::uint32_t type, std::string_view name) {
+        add(type, 1), add(0, 1), add(static_cast<std::uint32_t>(name.size()), 2);
+        bytes.append(name).append((4 - name.size() % 4) % 4, '\0');
+        add(7, 4);
+    };
+    add(highest_first, 1), add(0, 3), add(7, 4), add(3, 4);
+    begin(1, "Net/ThemeName"), add(5, 4), bytes.append("Plain", 5), add(0, 3);
+    begin(2, "Net/Color"), add(1, 4), add(2, 4);
+    begin(0, "Net/DoubleClickTime"), add(milliseconds, 4);
+    return bytes;
+}
 
 struct X11Test : testing::Test {
     SteadyClock clock;

@@ -2,8 +2,6 @@
 #include "platform/cairo/image_pixels.h"
 #include "tests/x11/rig.h"
 
-#include <xcb/xfixes.h>
-
 namespace r7::testing_x11 {
 namespace {
 
@@ -36,10 +34,13 @@ TEST_F(X11Windows, WindowThatCannotBeOpenedSaysWhy)
 
 TEST_F(X11Windows, ScaleIsTheDesktopsUnlessGiven)
 {
-    display.set_resources("Xft.dpi:\t192\n");
+    const auto set_resources = [this](std::string_view text) {
+        display.set_property(display.root(), XCB_ATOM_RESOURCE_MANAGER, XCB_ATOM_STRING, text);
+    };
+    set_resources("Xft.dpi:\t192\n");
     EXPECT_EQ(Shown(loop).x11->scale(), 2.0);
     EXPECT_EQ(Shown(loop, {.scale = 1.0}).x11->scale(), 1.0);
-    display.set_resources("");
+    set_resources("");
     EXPECT_EQ(Shown(loop).x11->scale(), 1.0);
 }
 
@@ -50,9 +51,11 @@ TEST_F(X11Windows, EmbeddedWindowLeavesFocusAndPixelFormatToItsHostWhoseEndIsTol
     Shown shown(loop, {.parent = host});
     ASSERT_TRUE(settle(shown));
     display.move_to(311, 220);
+    display.place(host, 305, 210); // of which the window is told by nobody
     display.press(1);
     display.move_to(315, 220);
     EXPECT_TRUE(turn_until([&] { return shown.view->has_heard("drag"); }));
+    EXPECT_EQ(shown.x11->window().frame().origin(), (Point{305.0, kScreenHeight - 210.0 - 150.0}));
     EXPECT_EQ(display.focus(), focus);
 
     display.destroy(host);
@@ -124,25 +127,6 @@ TEST_F(X11Windows, PictureLargerThanARequestArrivesWhole)
     EXPECT_TRUE(settle(shown, 0, 0));
 }
 
-// The cursor that the screen shows, as the XFIXES extension reads it back.
-struct ShownCursor {
-    int width, height, hot_x, hot_y;
-    Pixels pixels;
-    bool operator==(const ShownCursor&) const = default;
-};
-
-ShownCursor cursor_on(const Display& display)
-{
-    xcb_connection_t* c = display.get();
-    const XcbPointer<xcb_xfixes_query_version_reply_t> version(
-        xcb_xfixes_query_version_reply(c, xcb_xfixes_query_version(c, 4, 0), nullptr));
-    const XcbPointer<xcb_xfixes_get_cursor_image_reply_t> reply(
-        xcb_xfixes_get_cursor_image_reply(c, xcb_xfixes_get_cursor_image(c), nullptr));
-    const std::uint32_t* pixels = xcb_xfixes_get_cursor_image_cursor_image(reply.get());
-    return {reply->width, reply->height, reply->xhot, reply->yhot,
-            Pixels(pixels, pixels + reply->width * reply->height)};
-}
-
 TEST_F(X11Windows, CursorIsThePicturePixelByPixel)
 {
     const auto image = Image::painted({24.0, 16.0}, [](Graphics& graphics) {
@@ -156,7 +140,7 @@ TEST_F(X11Windows, CursorIsThePicturePixelByPixel)
         Shown shown(loop, {.scale = scale});
         ASSERT_TRUE(settle(shown));
         display.move_to(320, 220);
-        const ShownCursor arrow = cursor_on(display);
+        const Display::Cursor arrow = display.cursor();
 
         const ImagePixels expected = image_pixels(*image, scale);
         Pixels pixels(expected.bytes.size() / 4);
@@ -164,7 +148,7 @@ TEST_F(X11Windows, CursorIsThePicturePixelByPixel)
         const int unit = static_cast<int>(scale);
         shown.x11->show_cursor(cursor);
         EXPECT_TRUE(turn_until([&] {
-            return cursor_on(display) == ShownCursor{24 * unit, 16 * unit, 5 * unit, 12 * unit, pixels};
+            return display.cursor() == Display::Cursor{24 * unit, 16 * unit, 5 * unit, 12 * unit, pixels};
         })) << scale;
 
         const std::uint64_t sent = shown.x11->bytes_sent();
@@ -172,7 +156,7 @@ TEST_F(X11Windows, CursorIsThePicturePixelByPixel)
         loop.turn(Time{0});
         EXPECT_EQ(shown.x11->bytes_sent(), sent) << "shown already";
         shown.x11->show_cursor(nullptr);
-        EXPECT_TRUE(turn_until([&] { return cursor_on(display) == arrow; }));
+        EXPECT_TRUE(turn_until([&] { return display.cursor() == arrow; }));
     }
 }
 
