@@ -80,6 +80,7 @@ std::optional<X11PointerTracker::Button> X11PointerTracker::move(const X11Pointe
         if (!holds(pointer, other_than(dragged_))) return std::nullopt;
         dragged_ = other_than(dragged_);
     }
+    if (pointer.root_x == last_.root_x && pointer.root_y == last_.root_y) return std::nullopt;
     if (distance_from_press(pointer) > kClickDistance) strayed_ = true;
     return Button{dragged_, event_of(dragged_, pointer)};
 }

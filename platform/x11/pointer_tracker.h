@@ -43,7 +43,8 @@ public:
     /// A press or a release of a button by its number (`detail`); nothing for those that are not delivered.
     std::optional<Button> press(std::uint8_t number, const X11Pointer& pointer);
     std::optional<Button> release(std::uint8_t number, const X11Pointer& pointer);
-    /// A motion: of the button that was pressed first, of those held; nothing where none is.
+    /// A motion: of the button that was pressed first, of those held; nothing where none is, or where the
+    /// pointer stands still.
     std::optional<Button> move(const X11Pointer& pointer);
     /// A press of the buttons that stand for a wheel: a notch. Nothing for other buttons.
     std::optional<ScrollEvent> scroll(std::uint8_t number, const X11Pointer& pointer) const;

@@ -3,6 +3,7 @@
 
 #include "platform/x11/connection.h"
 #include "platform/x11/cursor_cache.h"
+#include "platform/x11/endless_screen.h"
 #include "platform/x11/native_window.h"
 #include "platform/x11/pixel_sender.h"
 
@@ -29,6 +30,7 @@ struct X11Window::Native {
           c(connection->get()),
           pixels(*connection, window, connection->visual().depth),
           cursors(*connection, scale),
+          endless_screen(connection->screen().width_in_pixels, connection->screen().height_in_pixels),
           protocols(connection->atom("WM_PROTOCOLS")),
           delete_window(connection->atom("WM_DELETE_WINDOW"))
     {
@@ -41,11 +43,19 @@ struct X11Window::Native {
                     : Event{XcbPointer<xcb_generic_event_t>(xcb_poll_for_queued_event(c))};
     }
 
+    void move_pointer(X11EndlessScreen::Place place) const
+    {
+        xcb_warp_pointer(c, XCB_WINDOW_NONE, connection->screen().root, 0, 0, 0, 0,
+                         static_cast<std::int16_t>(place.x), static_cast<std::int16_t>(place.y));
+        xcb_flush(c); // the hand goes on meanwhile
+    }
+
     std::unique_ptr<X11Connection> connection;
     xcb_connection_t* c;
     X11PixelSender pixels;
     X11CursorCache cursors;
     xcb_cursor_t cursor = XCB_CURSOR_NONE; // shown
+    X11EndlessScreen endless_screen;
     xcb_atom_t protocols;
     xcb_atom_t delete_window;
     Event next; // looked at, not yet taken
@@ -58,6 +68,13 @@ template <typename T>
 X11Pointer pointer_of(const T& event)
 {
     return {event.event_x, event.event_y, event.root_x, event.root_y, event.time, event.state};
+}
+
+// Whether a button that drags is held besides the one that is pressed or released.
+bool holds_another(const xcb_button_press_event_t& e)
+{
+    return (e.state & XCB_BUTTON_MASK_1 && e.detail != XCB_BUTTON_INDEX_1) ||
+           (e.state & XCB_BUTTON_MASK_3 && e.detail != XCB_BUTTON_INDEX_3);
 }
 
 Rect as_rect(const PixelRect& pixels)
@@ -125,6 +142,12 @@ std::uint64_t X11Window::bytes_sent() const
 
 void X11Window::show_cursor(const CursorRef& cursor)
 {
+    cursor_ = cursor;
+    if (!hides_pointer_) use_cursor(cursor);
+}
+
+void X11Window::use_cursor(const CursorRef& cursor)
+{
     if (!native_) return;
     const xcb_cursor_t found = native_->cursors.find(cursor);
     if (found == native_->cursor) return;
@@ -175,6 +198,7 @@ void X11Window::handle(const Event& event)
     }
     case XCB_UNMAP_NOTIFY:
         exposed_ = false;
+        end_drag(); // whose release the display keeps to itself
         break;
     case XCB_PROPERTY_NOTIFY: // of the desktop's settings
         update_click_interval();
@@ -194,7 +218,8 @@ void X11Window::handle(const Event& event)
     }
     case XCB_BUTTON_PRESS: {
         const auto& e = event.as<xcb_button_press_event_t>();
-        const X11Pointer pointer = pointer_of(e);
+        if (!holds_another(e)) native_->endless_screen.end(); // of a drag whose release was lost
+        const X11Pointer pointer = native_->endless_screen.follow(pointer_of(e));
         // Nothing else tells where a window is whose surroundings were moved.
         place(e.root_x - e.event_x, e.root_y - e.event_y);
         if (const auto press = pointer_.press(e.detail, pointer))
@@ -205,17 +230,43 @@ void X11Window::handle(const Event& event)
     }
     case XCB_BUTTON_RELEASE: {
         const auto& e = event.as<xcb_button_release_event_t>();
-        if (const auto release = pointer_.release(e.detail, pointer_of(e)))
-            window_->release(release->button, release->event);
+        const auto release = pointer_.release(e.detail, native_->endless_screen.follow(pointer_of(e)));
+        if (!holds_another(e)) end_drag();
+        if (release) window_->release(release->button, release->event);
         break;
     }
-    case XCB_MOTION_NOTIFY:
-        if (const auto drag = pointer_.move(pointer_of(event.as<xcb_motion_notify_event_t>())))
-            window_->drag(drag->button, drag->event);
+    case XCB_MOTION_NOTIFY: {
+        const auto& e = event.as<xcb_motion_notify_event_t>();
+        const auto drag = pointer_.move(native_->endless_screen.follow(pointer_of(e)));
+        if (!drag) break;
+        keep_off_edges();
+        // One by one, however many wait: a control rounds and clamps each step, and merged ones would end
+        // elsewhere.
+        window_->drag(drag->button, drag->event);
         break;
+    }
     default: // an error, which only tells that something is gone already, or of no interest
         break;
     }
+}
+
+void X11Window::keep_off_edges()
+{
+    const auto place = native_->endless_screen.bring_back();
+    if (!place) return;
+    if (!std::exchange(hides_pointer_, true)) {
+        use_cursor(std::make_shared<Cursor>(Cursor{Image::painted({1.0, 1.0}, [](Graphics&) {}), {}}));
+        // Over the windows of others, too.
+        xcb_change_active_pointer_grab(native_->c, native_->cursor, XCB_CURRENT_TIME, kPointerEvents);
+    }
+    native_->move_pointer(*place);
+}
+
+void X11Window::end_drag()
+{
+    const auto place = native_->endless_screen.end();
+    if (place) native_->move_pointer(*place);
+    if (std::exchange(hides_pointer_, false)) use_cursor(cursor_);
 }
 
 void X11Window::update_click_interval()

@@ -38,6 +38,46 @@ TEST_F(X11Events, FirstPressedOfTwoButtonsDragsEvenOutsideTheWindow)
                                    "up -10,-41 by 0,0 x1\n");
 }
 
+TEST_F(X11Events, DragGoesOnPastTheScreensEdgesUnseenAndExact)
+{
+    const Display::Cursor arrow = display.cursor();
+    std::ostringstream expected;
+    expected << "down 11,129 by 0,0 x1\n";
+    display.press(1);
+    int x = 11, y = 129;
+    for (const auto& [dx, dy, moves] : {std::array{-10, 0, 400}, {7, 10, 401}, {-5, 9, 100}}) {
+        for (int i = 0; i < moves; ++i) {
+            display.move_by(dx, dy);
+            if (i % 2) loop.turn(Time{0}); // some motions are under way while the pointer is brought back
+            x += dx;
+            y -= dy;
+            expected << "drag " << x << ',' << y << " by " << dx << ',' << dy << " x1\n";
+        }
+    }
+    const Display::Cursor hidden = display.cursor();
+    EXPECT_EQ(hidden.pixels, Pixels(hidden.pixels.size())) << "over the screen, too";
+    display.release(1);
+    expected << "up " << x << ',' << y << " by 0,0 x1\n";
+    EXPECT_EQ(heard_until("\nup"), expected.str());
+    EXPECT_EQ(display.pointer(), std::pair(0, kScreenHeight - 1)) << "where the hand is, on the screen";
+    EXPECT_EQ(display.cursor(), arrow);
+
+    // The end of the next drag never comes: its window is hidden.
+    display.move_to(311, 220);
+    display.press(1);
+    for (int i = 0; i < 60; ++i, loop.turn(Time{0})) display.move_by(-10, 0);
+    display.show(shown.x11->native_id(), false);
+    EXPECT_TRUE(turn_until([&] { return display.pointer() == std::pair(0, 220); }));
+    display.release(1);
+    display.show(shown.x11->native_id(), true);
+    ASSERT_TRUE(settle(shown));
+    shown.view->heard();
+    display.move_to(311, 220);
+    EXPECT_EQ(display.cursor(), arrow);
+    display.press(1);
+    EXPECT_EQ(heard_until("down"), "down 11,129 by 0,0 x1\n");
+}
+
 TEST_F(X11Events, ClicksCountOnWithinTheDesktopsTimeAsItIsNow)
 {
     const xcb_atom_t settings = display.atom("_XSETTINGS_SETTINGS");

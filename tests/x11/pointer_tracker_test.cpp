@@ -64,6 +64,7 @@ TEST(X11PointerTracker, MotionBelongsToTheButtonsThatTheDisplaySaysAreHeld)
     const auto press = tracker.press(1, at(70, 10));
     EXPECT_EQ(press->event.delta_x, 0.0);
     EXPECT_EQ(tracker.move(at(71, 20, kHeld1))->button, MouseButton::primary);
+    EXPECT_FALSE(tracker.move(at(71, 20, kHeld1))) << "it stands still";
     EXPECT_EQ(tracker.move(at(72, 20, kHeld1 | kHeld3))->button, MouseButton::primary);
     EXPECT_EQ(tracker.move(at(73, 20, kHeld3))->button, MouseButton::secondary);
 }
