@@ -2,10 +2,10 @@
 #include "platform/x11/desktop_settings.h"
 #include "tests/x11/rig.h"
 
-#include <tuple>
-
 namespace r7 {
 namespace {
+
+using namespace std::string_literals;
 
 constexpr std::uint16_t kHeld1 = 0x100;
 
@@ -57,58 +57,49 @@ TEST(X11PointerTracker, DragThatStraysEndsTheCountEvenWhenItComesBack)
 TEST(X11PointerTracker, MotionBelongsToTheButtonsThatTheDisplaySaysAreHeld)
 {
     constexpr std::uint16_t kHeld3 = 0x400;
-    X11PointerTracker tracker(100, 1.0);
+    X11PointerTracker tracker(100, 2.0);
     EXPECT_FALSE(tracker.move(at(50, 0)));
     tracker.press(3, at(50, 0));
     // Its release never came: another program took the pointer meanwhile.
     const auto press = tracker.press(1, at(70, 10));
     EXPECT_EQ(press->event.delta_x, 0.0);
-    EXPECT_EQ(tracker.move(at(71, 20, kHeld1))->button, MouseButton::primary);
+    EXPECT_EQ(press->event.location_in_window, (Point{35.0, 44.5})) << "pixels are half points";
+    EXPECT_EQ(tracker.move(at(71, 20, kHeld1))->event.delta_x, 0.5);
     EXPECT_FALSE(tracker.move(at(71, 20, kHeld1))) << "it stands still";
     EXPECT_EQ(tracker.move(at(72, 20, kHeld1 | kHeld3))->button, MouseButton::primary);
     EXPECT_EQ(tracker.move(at(73, 20, kHeld3))->button, MouseButton::secondary);
 }
 
-TEST(X11PointerTracker, ModifiersAndTheWheelsDirectionsAreNamed)
+TEST(X11PointerTracker, ModifiersAreNamed)
 {
-    constexpr Modifiers kNone{}, kOption = Modifiers::option;
-    const struct {
-        std::uint8_t button;
-        int state;
-        double dx, dy;
-        Modifiers modifiers;
-    } kCases[] = {
-        {4, 0, 0.0, 1.0, kNone},
-        {5, XCB_MOD_MASK_SHIFT, 0.0, -1.0, Modifiers::shift},
-        {6, XCB_MOD_MASK_CONTROL, -1.0, 0.0, Modifiers::control},
-        {7, XCB_MOD_MASK_1, 1.0, 0.0, kOption},
-        {4, XCB_MOD_MASK_4, 0.0, 1.0, kOption},
-        {4, XCB_MOD_MASK_5 | XCB_MOD_MASK_SHIFT, 0.0, 1.0, kOption | Modifiers::shift},
-        {4, XCB_MOD_MASK_LOCK | XCB_MOD_MASK_2 | XCB_MOD_MASK_3, 0.0, 1.0, kNone},
+    constexpr Modifiers kOption = Modifiers::option;
+    const std::pair<int, Modifiers> kCases[] = {
+        {XCB_MOD_MASK_SHIFT, Modifiers::shift},
+        {XCB_MOD_MASK_CONTROL, Modifiers::control},
+        {XCB_MOD_MASK_1, kOption},
+        {XCB_MOD_MASK_4, kOption},
+        {XCB_MOD_MASK_5 | XCB_MOD_MASK_SHIFT, kOption | Modifiers::shift},
+        {XCB_MOD_MASK_LOCK | XCB_MOD_MASK_2 | XCB_MOD_MASK_3, Modifiers::none},
     };
-    const X11PointerTracker tracker(100, 1.0);
-    for (const auto& [button, state, dx, dy, modifiers] : kCases) {
-        const auto notch = tracker.scroll(button, at(50, 0, static_cast<std::uint16_t>(state)));
-        ASSERT_TRUE(notch);
-        EXPECT_EQ((std::tuple{notch->delta_x, notch->delta_y, notch->modifiers}),
-                  (std::tuple{dx, dy, modifiers}))
-            << state;
+    for (const auto& [state, modifiers] : kCases) {
+        X11PointerTracker tracker(100, 1.0);
+        EXPECT_EQ(tracker.press(1, at(50, 0, static_cast<std::uint16_t>(state)))->event.modifiers, modifiers);
     }
 }
 
 TEST(X11DesktopSettings, DoubleClickTimeIsFoundInWholeBytesOnly)
 {
-    using std::chrono::milliseconds;
-    for (const bool highest_first : {false, true}) {
-        const std::string bytes = testing_x11::desktop_settings(highest_first, 350);
-        EXPECT_EQ(double_click_time_of(bytes), milliseconds(350));
+    const std::string lowest_first = testing_x11::desktop_settings("\x5e\1\0\0"s);
+    const std::string highest_first =
+        "\1\0\0\0\0\0\0\7\0\0\0\1\0\0\0\23Net/DoubleClickTime\0\0\0\0\7\0\0\1\x5e"s;
+    for (const std::string& bytes : {lowest_first, highest_first}) {
+        EXPECT_EQ(double_click_time_of(bytes), std::chrono::milliseconds(350));
         for (std::size_t size = 0; size < bytes.size(); ++size)
             EXPECT_EQ(double_click_time_of({bytes.data(), size}), std::nullopt) << size;
-        for (const std::uint32_t refused : {0U, 49U, 5001U, ~0U})
-            EXPECT_EQ(double_click_time_of(testing_x11::desktop_settings(highest_first, refused)),
-                      std::nullopt);
     }
-    std::string unknown = testing_x11::desktop_settings(false, 350);
+    for (const std::string& refused : {"\x31\0\0\0"s, "\x89\x13\0\0"s, "\xff\xff\xff\xff"s})
+        EXPECT_EQ(double_click_time_of(testing_x11::desktop_settings(refused)), std::nullopt);
+    std::string unknown = lowest_first;
     unknown[12] = 3; // the first one's type
     EXPECT_EQ(double_click_time_of(unknown), std::nullopt);
     EXPECT_EQ(double_click_time_of(std::string(12, '\xff')), std::nullopt);

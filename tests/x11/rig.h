@@ -138,13 +138,14 @@ public:
             xcb_get_selection_owner_reply(get(), xcb_get_selection_owner(get(), atom(selection)), nullptr));
         return reply->owner;
     }
-    /// Its pixels, or none where it cannot be seen.
-    Pixels pixels_of(xcb_window_t window, std::uint16_t width, std::uint16_t height) const
+    /// Pixels of a window and what lies over it, or none where it cannot be seen.
+    Pixels pixels_of(xcb_window_t window, const xcb_rectangle_t& area) const
     {
-        const auto asked = xcb_get_image(get(), XCB_IMAGE_FORMAT_Z_PIXMAP, window, 0, 0, width, height, ~0U);
+        const auto asked = xcb_get_image(get(), XCB_IMAGE_FORMAT_Z_PIXMAP, window, area.x, area.y, area.width,
+                                         area.height, ~0U);
         const XcbPointer<xcb_get_image_reply_t> image(xcb_get_image_reply(get(), asked, nullptr));
         if (!image) return {};
-        return pixels_from(xcb_get_image_data(image.get()), std::size_t{width} * height);
+        return pixels_from(xcb_get_image_data(image.get()), std::size_t{area.width} * area.height);
     }
 
 private:
@@ -222,8 +223,8 @@ struct Shown {
 
     Pixels on_screen(const Display& display) const
     {
-        return display.pixels_of(x11->native_id(), static_cast<std::uint16_t>(x11->picture().width()),
-                                 static_cast<std::uint16_t>(x11->picture().height()));
+        return display.pixels_of(x11->native_id(), {0, 0, static_cast<std::uint16_t>(x11->picture().width()),
+                                                    static_cast<std::uint16_t>(x11->picture().height())});
     }
     /// What the screen ought to show.
     Pixels painted() const
@@ -233,24 +234,13 @@ struct Shown {
     }
 };
 
-/// What a settings manager publishes: a text, a colour and the time of a double click.
-inline std::string desktop_settings(bool highest_first, std::uint32_t milliseconds)
+/// What a settings manager publishes, lowest bytes first: a text, a colour and the time of a double click.
+inline std::string desktop_settings(std::string_view milliseconds)
 {
-    std::string bytes;
-    const auto add = [&](std::uint32_t number, int size) {
-        for (int i = 0; i < size; ++i)
-            bytes += static_cast<char>(number >> 8 * (highest_first ? size - 1 - i : i));
-    };
-    const auto begin = [&](std::uint32_t type, std::string_view name) {
-        add(type, 1), add(0, 1), add(static_cast<std::uint32_t>(name.size()), 2);
-        bytes.append(name).append((4 - name.size() % 4) % 4, '\0');
-        add(7, 4);
-    };
-    add(highest_first, 1), add(0, 3), add(7, 4), add(3, 4);
-    begin(1, "Net/ThemeName"), add(5, 4), bytes.append("Plain", 5), add(0, 3);
-    begin(2, "Net/Color"), add(1, 4), add(2, 4);
-    begin(0, "Net/DoubleClickTime"), add(milliseconds, 4);
-    return bytes;
+    using namespace std::string_literals;
+    return "\0\0\0\0\7\0\0\0\3\0\0\0\1\0\15\0Net/ThemeName\0\0\0\7\0\0\0\5\0\0\0Plain\0\0\0"
+           "\2\0\11\0Net/Color\0\0\0\7\0\0\0\1\2\3\4\5\6\7\0\0\0\23\0Net/DoubleClickTime\0\7\0\0\0"s.append(
+               milliseconds);
 }
 
 struct X11Test : testing::Test {

@@ -127,56 +127,67 @@ TEST_F(X11Windows, PictureLargerThanARequestArrivesWhole)
     EXPECT_TRUE(settle(shown, 0, 0));
 }
 
+// A square picture, empty but for a point at its lower left.
+ImageRef corner_of(double size)
+{
+    return Image::painted({size, size}, [](Graphics& graphics) {
+        const ColorRef color = Color::device_rgba(1.0, 0.4, 0.0, 0.5);
+        graphics.fill_rect({0.0, 0.0, 1.0, 1.0}, color.get(), Compositing::source_over);
+    });
+}
+
 TEST_F(X11Windows, CursorIsThePicturePixelByPixel)
 {
-    const auto image = Image::painted({24.0, 16.0}, [](Graphics& graphics) {
-        const ColorRef red = Color::device_rgba(1.0, 0.0, 0.0, 0.5),
-                       blue = Color::device_rgba(0.0, 0.0, 1.0, 1.0);
-        graphics.fill_rect({2.0, 3.0, 10.0, 4.0}, red.get(), Compositing::source_over);
-        graphics.fill_rect({12.0, 3.0, 1.0, 1.0}, blue.get(), Compositing::source_over);
-    });
-    const CursorRef cursor = std::make_shared<Cursor>(Cursor{image, {5.0, 4.0}});
+    const CursorRef cursor = std::make_shared<Cursor>(Cursor{corner_of(24.0), {5.0, 4.0}});
     for (const double scale : {1.0, 2.0}) {
         Shown shown(loop, {.scale = scale});
         ASSERT_TRUE(settle(shown));
         display.move_to(320, 220);
-        const Display::Cursor arrow = display.cursor();
-
-        const ImagePixels expected = image_pixels(*image, scale);
+        const ImagePixels expected = image_pixels(*cursor->image, scale);
         Pixels pixels(expected.bytes.size() / 4);
         std::memcpy(pixels.data(), expected.bytes.data(), expected.bytes.size());
         const int unit = static_cast<int>(scale);
         shown.x11->show_cursor(cursor);
         EXPECT_TRUE(turn_until([&] {
-            return display.cursor() == Display::Cursor{24 * unit, 16 * unit, 5 * unit, 12 * unit, pixels};
+            return display.cursor() == Display::Cursor{24 * unit, 24 * unit, 5 * unit, 20 * unit, pixels};
         })) << scale;
 
         const std::uint64_t sent = shown.x11->bytes_sent();
         shown.x11->show_cursor(cursor);
         loop.turn(Time{0});
         EXPECT_EQ(shown.x11->bytes_sent(), sent) << "shown already";
-        shown.x11->show_cursor(nullptr);
-        EXPECT_TRUE(turn_until([&] { return display.cursor() == arrow; }));
     }
 }
 
 TEST_F(X11Windows, IconsAreStraightColoursInTheSizesThatThereAre)
 {
-    const auto icon = [](double size) {
-        return Image::painted({size, size}, [](Graphics& graphics) {
-            const ColorRef color = Color::device_rgba(1.0, 0.4, 0.0, 0.5);
-            graphics.fill_rect({0.0, 0.0, 1.0, 1.0}, color.get(), Compositing::source_over);
-        });
-    };
-    Shown shown(loop, {.icons = {icon(2.0), nullptr, icon(4096.0), icon(1.0)}});
+    Shown shown(loop, {.icons = {corner_of(2.0), nullptr, corner_of(4096.0), corner_of(1.0)}});
     ASSERT_TRUE(settle(shown));
     const auto asked = xcb_get_property(display.get(), 0, shown.x11->native_id(),
                                         display.atom("_NET_WM_ICON"), XCB_ATOM_CARDINAL, 0, 100);
     const XcbPointer<xcb_get_property_reply_t> reply(xcb_get_property_reply(display.get(), asked, nullptr));
     const auto* words = static_cast<const std::uint32_t*>(xcb_get_property_value(reply.get()));
-    constexpr std::uint32_t kColor = 0x80ff6600;
     EXPECT_EQ(std::vector(words, words + reply->value_len),
-              (std::vector<std::uint32_t>{2, 2, 0, 0, kColor, 0, 1, 1, kColor}));
+              (std::vector<std::uint32_t>{2, 2, 0, 0, 0x80ff6600, 0, 1, 1, 0x80ff6600}));
+}
+
+TEST_F(X11Windows, ChildWindowLiesOverThePictureOnTheScreenOfACompositorToo)
+{
+    Shown shown(loop);
+    Window child({310.0, 1760.0, 50.0, 50.0}, WindowStyle::borderless);
+    child.background_color = Color::device_rgba(0.0, 1.0, 0.0, 0.5);
+    ASSERT_TRUE(settle(shown));
+    const auto is_on_screen = [&] {
+        return display.pixels_of(display.root(), {300, 200, 200, 150}) == shown.painted();
+    };
+    EXPECT_TRUE(turn_until(is_on_screen));
+    ASSERT_EQ(std::system("picom --backend xrender --config /dev/null >/dev/null 2>&1 &"), 0);
+    ASSERT_TRUE(turn_until([&] { return display.owner("_NET_WM_CM_S0") != XCB_WINDOW_NONE; }));
+    const Pixels before = shown.painted();
+    shown.x11->window().add_child_window(child);
+    EXPECT_TRUE(turn_until([&] { return shown.painted() != before && is_on_screen(); }));
+    xcb_kill_client(display.get(), display.owner("_NET_WM_CM_S0"));
+    EXPECT_TRUE(turn_until([&] { return display.owner("_NET_WM_CM_S0") == XCB_WINDOW_NONE; }));
 }
 
 } // namespace
