@@ -3,6 +3,8 @@
 
 #include "platform/x11/desktop_settings.h"
 
+#include <xcb/randr.h>
+
 #include <bit>
 
 namespace r7 {
@@ -90,6 +92,24 @@ double X11Connection::desktop_scale() const
     // The desktop's settings are with the first screen, whichever screen the window is on.
     const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(connection_)).data->root;
     return desktop_scale_of(property(root, XCB_ATOM_RESOURCE_MANAGER, XCB_ATOM_STRING));
+}
+
+PixelRect X11Connection::monitor_at(int x, int y) const
+{
+    const PixelRect whole{0, 0, screen_->width_in_pixels, screen_->height_in_pixels};
+    // A request of an extension that is not there would break the connection.
+    const xcb_query_extension_reply_t* extension = xcb_get_extension_data(connection_, &xcb_randr_id);
+    if (!extension || !extension->present) return whole;
+    constexpr std::uint8_t kActive = 1;
+    const XcbPointer<xcb_randr_get_monitors_reply_t> reply(xcb_randr_get_monitors_reply(
+        connection_, xcb_randr_get_monitors(connection_, screen_->root, kActive), nullptr));
+    if (!reply) return whole;
+    for (auto i = xcb_randr_get_monitors_monitors_iterator(reply.get()); i.rem;
+         xcb_randr_monitor_info_next(&i)) {
+        const PixelRect monitor{i.data->x, i.data->y, i.data->width, i.data->height};
+        if (x >= monitor.x && x < monitor.right() && y >= monitor.y && y < monitor.bottom()) return monitor;
+    }
+    return whole;
 }
 
 std::optional<std::chrono::milliseconds> X11Connection::double_click_time() const

@@ -1,7 +1,6 @@
 // A screen without edges, for drags.
 #include "platform/x11/endless_screen.h"
 
-#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -15,6 +14,12 @@ double distance(X11EndlessScreen::Place a, X11EndlessScreen::Place b)
 }
 
 } // namespace
+
+void X11EndlessScreen::begin(const PixelRect& edges)
+{
+    *this = {};
+    edges_ = edges;
+}
 
 X11Pointer X11EndlessScreen::follow(const X11Pointer& reported)
 {
@@ -38,10 +43,11 @@ X11Pointer X11EndlessScreen::follow(const X11Pointer& reported)
 
 std::optional<X11EndlessScreen::Place> X11EndlessScreen::bring_back()
 {
-    const auto nears_edge = [](int place, int motion, int size) {
-        return motion < 0 ? place < kNearEdge : motion > 0 && place >= size - kNearEdge;
+    const auto nears_edge = [](int place, int motion, int low, int high) {
+        return motion < 0 ? place < low + kNearEdge : motion > 0 && place >= high - kNearEdge;
     };
-    if (is_asked_ || !(nears_edge(last_.x, motion_.x, width_) || nears_edge(last_.y, motion_.y, height_)))
+    if (is_asked_ || !(nears_edge(last_.x, motion_.x, edges_.x, edges_.right()) ||
+                       nears_edge(last_.y, motion_.y, edges_.y, edges_.bottom())))
         return std::nullopt;
     is_asked_ = is_away_ = true;
     return middle();
@@ -49,11 +55,9 @@ std::optional<X11EndlessScreen::Place> X11EndlessScreen::bring_back()
 
 std::optional<X11EndlessScreen::Place> X11EndlessScreen::end()
 {
-    const Place hand{last_.x + beyond_.x, last_.y + beyond_.y};
-    beyond_ = {};
-    is_asked_ = false;
-    if (!std::exchange(is_away_, false)) return std::nullopt;
-    return Place{std::clamp(hand.x, 0, width_ - 1), std::clamp(hand.y, 0, height_ - 1)};
+    const X11EndlessScreen drag = std::exchange(*this, {});
+    if (!drag.is_away_) return std::nullopt;
+    return Place{drag.last_.x + drag.beyond_.x, drag.last_.y + drag.beyond_.y};
 }
 
 } // namespace r7

@@ -1,6 +1,7 @@
 // A screen without edges, for drags.
 #pragma once
 
+#include "platform/cairo/pixels.h"
 #include "platform/x11/pointer_tracker.h"
 
 #include <optional>
@@ -14,32 +15,30 @@ namespace r7 {
 /// that it was. This class is the reckoning; whoever owns it moves the pointer.
 class X11EndlessScreen final {
 public:
-    /// In pixels: more than a quick hand goes while the display is being asked to bring the pointer back, or
-    /// what it goes beyond the edge is lost.
+    /// In pixels: farther than a quick hand goes while the display is asked to bring the pointer back. What
+    /// it goes beyond the edge meanwhile is lost.
     static constexpr int kNearEdge = 48;
 
-    /// A place on the screen, in pixels from its top left corner.
+    /// A place on the screen, in pixels from its top left corner; y grows downward.
     struct Place {
         int x = 0;
         int y = 0;
-        bool operator==(const Place&) const = default;
     };
 
-    X11EndlessScreen(int width, int height) : width_(width), height_(height) {}
-
+    /// Starts a drag that meets these edges, the screen's or its monitor's.
+    void begin(const PixelRect& edges);
     /// The pointer as it would be on a screen without edges. To be told of every report, in order.
     X11Pointer follow(const X11Pointer& reported);
     /// Where the dragged pointer that was told of last is to be brought now, or nothing.
     std::optional<Place> bring_back();
-    /// Ends a drag. Where the pointer is to be put then, if it was ever brought back: where the hand has
-    /// taken it, or the nearest place of the screen.
+    /// Ends the drag. Where the pointer is to be put if it was ever brought back: where the hand has taken
+    /// it, which may be beyond the screen.
     std::optional<Place> end();
 
 private:
-    Place middle() const { return {width_ / 2, height_ / 2}; }
+    Place middle() const { return {edges_.x + edges_.width / 2, edges_.y + edges_.height / 2}; }
 
-    int width_;
-    int height_;
+    PixelRect edges_;
     Place last_;            // as reported
     Place motion_;          // that led there
     Place beyond_;          // from where it is reported to where the hand has taken it

@@ -7,6 +7,7 @@
 #include "platform/x11/native_window.h"
 #include "platform/x11/pixel_sender.h"
 
+#include <algorithm>
 #include <cassert>
 #include <utility>
 
@@ -30,7 +31,6 @@ struct X11Window::Native {
           c(connection->get()),
           pixels(*connection, window, connection->visual().depth),
           cursors(*connection, scale),
-          endless_screen(connection->screen().width_in_pixels, connection->screen().height_in_pixels),
           protocols(connection->atom("WM_PROTOCOLS")),
           delete_window(connection->atom("WM_DELETE_WINDOW"))
     {
@@ -43,10 +43,14 @@ struct X11Window::Native {
                     : Event{XcbPointer<xcb_generic_event_t>(xcb_poll_for_queued_event(c))};
     }
 
+    // To the place, or the one of the screen that is nearest.
     void move_pointer(X11EndlessScreen::Place place) const
     {
-        xcb_warp_pointer(c, XCB_WINDOW_NONE, connection->screen().root, 0, 0, 0, 0,
-                         static_cast<std::int16_t>(place.x), static_cast<std::int16_t>(place.y));
+        const auto coordinate = [](int number) {
+            return static_cast<std::int16_t>(std::clamp(number, 0, 32767));
+        };
+        xcb_warp_pointer(c, XCB_WINDOW_NONE, connection->screen().root, 0, 0, 0, 0, coordinate(place.x),
+                         coordinate(place.y));
         xcb_flush(c); // the hand goes on meanwhile
     }
 
@@ -218,7 +222,8 @@ void X11Window::handle(const Event& event)
     }
     case XCB_BUTTON_PRESS: {
         const auto& e = event.as<xcb_button_press_event_t>();
-        if (!holds_another(e)) native_->endless_screen.end(); // of a drag whose release was lost
+        if (!holds_another(e))
+            native_->endless_screen.begin(native_->connection->monitor_at(e.root_x, e.root_y));
         const X11Pointer pointer = native_->endless_screen.follow(pointer_of(e));
         // Nothing else tells where a window is whose surroundings were moved.
         place(e.root_x - e.event_x, e.root_y - e.event_y);
@@ -264,9 +269,8 @@ void X11Window::keep_off_edges()
 
 void X11Window::end_drag()
 {
-    const auto place = native_->endless_screen.end();
-    if (place) native_->move_pointer(*place);
     if (std::exchange(hides_pointer_, false)) use_cursor(cursor_);
+    if (const auto place = native_->endless_screen.end()) native_->move_pointer(*place);
 }
 
 void X11Window::update_click_interval()

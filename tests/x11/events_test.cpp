@@ -1,7 +1,9 @@
 // Real events of a real server: presses, drags and clicks.
+#include "platform/x11/endless_screen.h"
 #include "tests/x11/rig.h"
 
 #include <poll.h>
+#include <xcb/randr.h>
 
 namespace r7::testing_x11 {
 namespace {
@@ -41,37 +43,66 @@ TEST_F(X11Events, FirstPressedOfTwoButtonsDragsEvenOutsideTheWindow)
 TEST_F(X11Events, DragGoesOnPastTheScreensEdgesUnseenAndExact)
 {
     const Display::Cursor arrow = display.cursor();
+    const auto drag = [this](int dx, int dy, int moves) {
+        for (int i = 0; i < moves; ++i) {
+            display.move_by(dx, dy);
+            if (i % 2 == 0) continue; // so that motions are under way while the pointer is brought back
+            ASSERT_TRUE(turn_until([this] {
+                constexpr int kEdge = X11EndlessScreen::kNearEdge;
+                loop.turn(Time{0});
+                const auto [x, y] = display.pointer();
+                return x >= kEdge && x < kScreenWidth - kEdge && y >= kEdge && y < kScreenHeight - kEdge;
+            }));
+        }
+    };
     std::ostringstream expected;
     expected << "down 11,129 by 0,0 x1\n";
     display.press(1);
     int x = 11, y = 129;
-    for (const auto& [dx, dy, moves] : {std::array{-10, 0, 400}, {7, 10, 401}, {-5, 9, 100}}) {
-        for (int i = 0; i < moves; ++i) {
-            display.move_by(dx, dy);
-            if (i % 2) loop.turn(Time{0}); // some motions are under way while the pointer is brought back
-            x += dx;
-            y -= dy;
-            expected << "drag " << x << ',' << y << " by " << dx << ',' << dy << " x1\n";
-        }
+    for (const auto& [dx, dy, moves] : {std::array{-10, 0, 400}, {7, 10, 400}, {-5, 9, 100}}) {
+        drag(dx, dy, moves);
+        for (int i = 0; i < moves; ++i)
+            expected << "drag " << (x += dx) << ',' << (y -= dy) << " by " << dx << ',' << dy << " x1\n";
     }
     const Display::Cursor hidden = display.cursor();
     EXPECT_EQ(hidden.pixels, Pixels(hidden.pixels.size())) << "over the screen, too";
     display.release(1);
     expected << "up " << x << ',' << y << " by 0,0 x1\n";
-    EXPECT_EQ(heard_until("\nup"), expected.str());
-    EXPECT_EQ(display.pointer(), std::pair(0, kScreenHeight - 1)) << "where the hand is, on the screen";
+    EXPECT_TRUE(heard_until("\nup") == expected.str());
+    const auto is_at = [this](int px, int py) {
+        return turn_until([&] { return display.pointer() == std::pair(px, py); });
+    };
+    EXPECT_TRUE(is_at(0, kScreenHeight - 1)) << "where the hand is, on the screen";
     EXPECT_EQ(display.cursor(), arrow);
 
     // The next one's release never comes, for its window is hidden.
     display.move_to(311, 220);
     display.press(1);
-    for (int i = 0; i < 60; ++i, loop.turn(Time{0})) display.move_by(-10, 0);
+    drag(-10, 0, 60);
     display.show(shown.x11->native_id(), false);
-    EXPECT_TRUE(turn_until([&] { return display.pointer() == std::pair(0, 220); }));
+    EXPECT_TRUE(is_at(0, 220));
     display.release(1);
     display.show(shown.x11->native_id(), true);
     display.move_to(311, 220);
     EXPECT_EQ(display.cursor(), arrow);
+}
+
+TEST_F(X11Events, DragMeetsTheEdgesOfItsMonitor)
+{
+    xcb_randr_monitor_info_t left_half{};
+    left_half.name = display.atom("left half");
+    left_half.width = kScreenWidth / 2;
+    left_half.height = kScreenHeight;
+    xcb_randr_set_monitor(display.get(), display.root(), &left_half);
+    display.press(1);
+    int farthest = 0;
+    for (int i = 0; i < 100; ++i, loop.turn(Time{0})) {
+        display.move_by(10, 0);
+        farthest = std::max(farthest, display.pointer().first);
+    }
+    EXPECT_GT(farthest, kScreenWidth / 2 - X11EndlessScreen::kNearEdge);
+    EXPECT_LT(farthest, kScreenWidth / 2);
+    xcb_randr_delete_monitor(display.get(), display.root(), left_half.name);
 }
 
 TEST_F(X11Events, ClicksCountOnWithinTheDesktopsTimeAsItIsNow)
