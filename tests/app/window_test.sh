@@ -93,8 +93,7 @@ perform() {
         case $word in
         press)
             point_at "$name" "$x" "$y"
-            held=1
-            if [[ $more == right ]]; then held=3; fi
+            if [[ $more == right ]]; then held=3; else held=1; fi
             xdotool mousedown $held
             ;;
         drag)
@@ -102,7 +101,7 @@ perform() {
             if [[ $x == control ]]; then xdotool keydown ctrl; fi
             xdotool mousemove_relative -- "$name" "$at"
             if [[ $x == control ]]; then xdotool keyup ctrl; fi
-            within 1 traced $((lines + 1)) || true # a switch prints nothing
+            within 10 traced $((lines + 1)) || die "a drag does nothing: $name $at"
             ;;
         release) xdotool mouseup "$held" ;;
         scroll) point_at "$name" && xdotool click $((at > 0 ? 4 : 5)) ;;
@@ -117,8 +116,7 @@ without_places() { sed 's/^\(overlay open [a-z_]*\) .*/\1/' "$1"; }
 traced() { [[ $(wc -l <"$work/trace") -ge $1 ]]; }
 
 session=$work/gestures.session
-{
-    cat <<END
+cat >"$session" <<END
 press delay_depth_knob at 40 10
 drag 10 -15
 drag 3 0 control
@@ -137,12 +135,9 @@ click output_level clicks 2
 press envelope_mode at 10 10
 release
 press envelope_mode at 46 10
-drag 20 0
 release
 press delay_cutoff_frequency_knob at 30 10
-END
-    for ((i = 0; i < 70; ++i)); do echo drag -20 0 control; done # past the edge of the screen
-    cat <<END
+$(printf 'drag -20 0 control\n%.0s' {1..70}) # past the edge of the screen
 drag 15 -9
 release
 # A curve's end point, dragged in the editor over the panel while a knob below it is turned.
@@ -167,7 +162,6 @@ release
 press pre_tone_control at 620 40
 release
 END
-} >"$session"
 
 open_display 8
 start_panel

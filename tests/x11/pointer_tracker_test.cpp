@@ -1,5 +1,6 @@
 // Counting clicks by time and distance, and the desktop's settings: what needs no display.
 #include "platform/x11/desktop_settings.h"
+#include "platform/x11/endless_screen.h"
 #include "tests/x11/rig.h"
 
 namespace r7 {
@@ -85,6 +86,22 @@ TEST(X11PointerTracker, ModifiersAreNamed)
         X11PointerTracker tracker(100, 1.0);
         EXPECT_EQ(tracker.press(1, at(50, 0, static_cast<std::uint16_t>(state)))->event.modifiers, modifiers);
     }
+}
+
+TEST(X11EndlessScreen, EdgesAreThoseOfTheMonitor)
+{
+    const auto comes_back_from = [](int x, int y) {
+        X11EndlessScreen screen;
+        screen.begin({1000, 500, 600, 400});
+        screen.follow({.root_x = 1300, .root_y = 700});
+        screen.follow({.root_x = x, .root_y = y});
+        const auto place = screen.bring_back();
+        return place && place->x == 1300 && place->y == 700;
+    };
+    for (const auto& [x, y] : {std::pair{1048, 700}, {1551, 700}, {1300, 548}, {1300, 851}})
+        EXPECT_FALSE(comes_back_from(x, y)) << x << ',' << y;
+    for (const auto& [x, y] : {std::pair{1047, 700}, {1552, 700}, {1300, 547}, {1300, 852}})
+        EXPECT_TRUE(comes_back_from(x, y)) << x << ',' << y;
 }
 
 TEST(X11DesktopSettings, DoubleClickTimeIsFoundInWholeBytesOnly)
