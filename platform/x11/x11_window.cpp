@@ -222,7 +222,7 @@ void X11Window::handle(const Event& event)
     }
     case XCB_BUTTON_PRESS: {
         const auto& e = event.as<xcb_button_press_event_t>();
-        if (!holds_another(e))
+        if ((e.detail == XCB_BUTTON_INDEX_1 || e.detail == XCB_BUTTON_INDEX_3) && !holds_another(e))
             native_->endless_screen.begin(native_->connection->monitor_at(e.root_x, e.root_y));
         const X11Pointer pointer = native_->endless_screen.follow(pointer_of(e));
         // Nothing else tells where a window is whose surroundings were moved.
