@@ -38,6 +38,8 @@ Request read_command_line(int count, const char* const* arguments)
     WindowOptions window;
     std::filesystem::path resources;
     auto* trace = app.add_flag("--trace", window.trace, "Print what the panel does, as sessions do");
+    auto* no_status = app.add_flag_callback(
+        "--no-status", [&] { window.status = false; }, "Leave out the status line below the panel");
     auto* scale = add_scale(app, window.scale, "Pixels for a point, 0.5 to 4 (default: the display's)");
     auto* folder =
         app.add_option("--resources", resources, "Where the panel's resources are")->type_name("DIR");
@@ -58,7 +60,7 @@ Request read_command_line(int count, const char* const* arguments)
 
     // What belongs to the window has no meaning without it.
     for (CLI::App* form : {play_form, snapshot_form, text_form})
-        form->excludes(trace)->excludes(scale)->excludes(folder);
+        form->excludes(trace)->excludes(no_status)->excludes(scale)->excludes(folder);
 
     try {
         app.parse(count, arguments);

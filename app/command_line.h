@@ -18,6 +18,7 @@ inline constexpr double kLargestScale = 4.0;
 /// The panel in a window.
 struct WindowOptions {
     bool trace = false;
+    bool status = true;                               ///< the status line below the panel
     std::optional<double> scale{};                    ///< none: the display's
     std::optional<std::filesystem::path> resources{}; ///< none: the program's own
 };

@@ -1,7 +1,9 @@
 // `r7`: the panel in a window.
 #include "app/panel_program.h"
 
+#include "app/curve_announcer.h"
 #include "app/resources.h"
+#include "app/status_line.h"
 #include "app/stop_signals.h"
 #include "app/transcript.h"
 #include "host/view_factory.h"
@@ -11,6 +13,7 @@
 
 #include <csignal>
 #include <cstdio>
+#include <optional>
 #include <vector>
 
 namespace r7 {
@@ -56,14 +59,18 @@ ExitStatus show_panel(const WindowOptions& options, const std::filesystem::path&
     const SteadyClock clock;
     RunLoop loop(clock);
     Transcript transcript(stdout);
-    const auto unit = EmbeddedUnit::create(options.trace ? &transcript : nullptr);
+    CurveAnnouncer announcer(options.trace ? &transcript : nullptr);
+    const auto unit = EmbeddedUnit::create(&announcer);
     const auto bundle = std::make_shared<const Bundle>(resources);
     const auto panel = QmR7ViewFactory(bundle).uiViewForAudioUnit_withSize(unit->handle(), {});
     if (!panel) return no_resources(resources);
+    announcer.begin(*panel);
 
     bool open = true;
     bool lost = false;
-    X11WindowOptions wanted{.size = panel->bounds().size(), .title = "R7", .class_name = "r7"};
+    Size size = panel->bounds().size();
+    if (options.status) size.height += StatusLine::kHeight;
+    X11WindowOptions wanted{.size = size, .title = "R7", .class_name = "r7"};
     wanted.scale = options.scale.value_or(0.0);
     wanted.icons = icons_of(*bundle);
     wanted.close_requested = [&open] { open = false; };
@@ -75,7 +82,11 @@ ExitStatus show_panel(const WindowOptions& options, const std::filesystem::path&
     std::signal(SIGPIPE, SIG_IGN);
     const auto [window, status] = X11Window::open(std::move(wanted));
     if (!window) return no_display(reason(status));
-    window->window().set_content_view(panel);
+    std::optional<StatusLine> status_line;
+    if (options.status)
+        status_line.emplace(window->window(), panel, *unit, *bundle);
+    else
+        window->window().set_content_view(panel);
     loop.add(window);
     const auto signals = std::make_shared<StopSignals>([&open] { open = false; });
     loop.add(signals);

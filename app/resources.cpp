@@ -16,7 +16,7 @@ std::filesystem::path own_resources()
     // R7_SOURCE_RESOURCES leads from the folder of the build to the source tree's.
     for (const char* way : {R7_SOURCE_RESOURCES, "../share/r7"}) {
         const std::filesystem::path folder = (program.parent_path() / way).lexically_normal();
-        if (std::filesystem::is_directory(folder, error)) return folder;
+        if (std::filesystem::exists(folder / "QmR7View.xml", error)) return folder;
     }
     return (program.parent_path() / "../share/r7").lexically_normal();
 }

@@ -46,6 +46,7 @@ void Transcript::line(std::string_view text)
 
 void Transcript::note_overlay()
 {
+    if (!panel_) return;
     const auto before = std::exchange(overlay_, overlay_editor(*panel_));
     if (overlay_ == before) return;
     if (before) print("overlay close");

@@ -34,7 +34,7 @@ public:
 
     /// Prints what has not been told yet, then `text`.
     void line(std::string_view text);
-    /// Prints whether an overlay window was opened or closed since the last line.
+    /// Prints whether an overlay window was opened or closed since the last line; nothing before begin().
     void note_overlay();
 
     void parameter_set(AudioUnitParameterID id, float value) override;

@@ -2,6 +2,7 @@
 #include "platform/window.h"
 
 #include "platform/graphics.h"
+#include "platform/window_shadow.h"
 
 #include <algorithm>
 #include <utility>
@@ -64,7 +65,7 @@ void Window::add_child_window(Window& child)
     child.detach_from_parent();
     children_.push_back(&child);
     child.parent_ = this;
-    set_needs_display_in(moved_by({0.0, 0.0, child.frame_.width, child.frame_.height}, origin_of(child)));
+    set_needs_display_in(covered_by(child));
     if (backend_) backend_->child_windows_changed();
 }
 
@@ -80,7 +81,7 @@ void Window::detach_from_parent()
     if (top.key_window_ == this) top.key_window_ = nullptr;
     Window& parent = *std::exchange(parent_, nullptr);
     std::erase(parent.children_, this);
-    parent.set_needs_display_in(moved_by({0.0, 0.0, frame_.width, frame_.height}, parent.origin_of(*this)));
+    parent.set_needs_display_in(parent.covered_by(*this));
     if (parent.backend_) parent.backend_->child_windows_changed();
 }
 
@@ -117,6 +118,12 @@ bool Window::make_first_responder(const ViewRef& view)
 Point Window::origin_of(const Window& child) const
 {
     return {child.frame_.x - frame_.x, child.frame_.y - frame_.y};
+}
+
+Rect Window::covered_by(const Window& child) const
+{
+    const Rect frame = moved_by(child.frame_, {-frame_.x, -frame_.y});
+    return child.has_shadow ? with_shadow(frame) : frame;
 }
 
 Window::Target Window::target_at(Point point) const
@@ -215,6 +222,7 @@ void Window::paint(Graphics& graphics, const Rect& dirty)
     if (content_view_) content_view_->paint_tree(graphics, dirty);
     for (Window* child : children_) {
         const Point origin = origin_of(*child);
+        if (child->has_shadow) paint_window_shadow(graphics, moved_by(child->frame_, {-frame_.x, -frame_.y}));
         const Graphics::SavedState above(graphics);
         graphics.move_origin_to(origin);
         child->paint(graphics, moved_by(dirty, {-origin.x, -origin.y}));

@@ -85,6 +85,7 @@ public:
     bool is_key_window() const;
 
     WindowLevel level = WindowLevel::normal;
+    /// Set before the window is shown.
     bool has_shadow = false;
     bool is_opaque = true;
     /// Whether views ask to hear of motion without a button. None does anything with it: back ends send none.
@@ -128,6 +129,8 @@ private:
     Target pressed_by(MouseButton button) const;
     // Lower left corner of a child, in this window's coordinates.
     Point origin_of(const Window& child) const;
+    // What a child and its shadow cover, in this window's coordinates.
+    Rect covered_by(const Window& child) const;
     void detach_from_parent();
     void update_views();
     // The window at the end of the chain of parents.

@@ -1,8 +1,9 @@
-// Draws the panel's images from its interface description.
+// Draws the panel's images from its interface description, and the program's icon.
 #include "resources/art/images.h"
 #include "resources/art/lightball.h"
 #include "resources/art/mock.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <string>
 #include <vector>
@@ -34,7 +35,8 @@ bool draw_images(const InterfaceDescription& description, const std::filesystem:
         if (!write(drawn(row, 1), folder / (row.name + ".png")) ||
             !write(drawn(row, 2), folder / (row.name + "@2x.png")))
             return false;
-    return true;
+    return std::ranges::all_of(
+        all_icons(), [&](const ImageRow& row) { return write(drawn(row, 1), folder / (row.name + ".png")); });
 }
 
 bool draw_lightball(const std::filesystem::path& path)

@@ -2,9 +2,8 @@
 #include "bench/limits/limits.h"
 
 #include "platform/offscreen/offscreen_window.h"
+#include "tests/support/counted_allocations.h"
 #include "tests/support/panel_rig.h"
-
-extern std::size_t allocations; // so far, in the whole program
 
 namespace r7::bench {
 
@@ -45,9 +44,9 @@ void measure_allocations(Limits& limits)
     std::size_t count = 0;
     const auto count_once_shown = [&] {
         show_everything(rig, window);
-        const std::size_t before = allocations;
+        const std::size_t before = allocations();
         show_everything(rig, window);
-        count += allocations - before;
+        count += allocations() - before;
     };
     count_once_shown();
     // An editor at a time over the panel.

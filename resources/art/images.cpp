@@ -1,6 +1,7 @@
-// Every image of the panel, by name.
+// Every image of the panel and of the program, by name.
 #include "resources/art/images.h"
 
+#include "resources/art/icon.h"
 #include "resources/art/knobs.h"
 #include "resources/art/lamps.h"
 #include "resources/art/plate.h"
@@ -45,6 +46,10 @@ std::vector<ImageRow> all_images(const InterfaceDescription& description)
     std::vector<ImageRow> rows;
     rows.push_back({"r7-bg", description.panel_size, Canvas::Ground::opaque,
                     [&](Canvas& canvas) { paint_background(canvas, description); }});
+    rows.push_back({"status-bar",
+                    {description.panel_size.width, kStatusBarHeight},
+                    Canvas::Ground::opaque,
+                    [&](Canvas& canvas) { paint_status_bar(canvas, description); }});
     for (const KnobKind kind : kKnobKinds) {
         const KnobShape& shape = shape_of(kind);
         rows.push_back(
@@ -69,6 +74,19 @@ std::vector<ImageRow> all_images(const InterfaceDescription& description)
                  [kind = kind, tilt = tilt](Canvas& canvas) { paint_switch(canvas, kind, tilt); }});
     rows.push_back({"blue-bar", kBlueBarTile, clear, paint_blue_bar});
     rows.push_back({"LCD-grid", kLcdGridTile, clear, paint_lcd_grid});
+    return rows;
+}
+
+std::vector<ImageRow> all_icons()
+{
+    std::vector<ImageRow> rows;
+    for (const IconRow& icon : kIcons) {
+        const auto size = static_cast<double>(icon.size);
+        rows.push_back({"icon-" + std::to_string(icon.size),
+                        {size, size},
+                        Canvas::Ground::clear,
+                        [&icon](Canvas& canvas) { paint_icon(canvas, icon); }});
+    }
     return rows;
 }
 

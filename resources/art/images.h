@@ -1,4 +1,4 @@
-// Every image of the panel, by name.
+// Every image of the panel and of the program, by name.
 #pragma once
 
 #include "platform/interface_description.h"
@@ -19,6 +19,9 @@ struct ImageRow {
 
 /// The images for a panel of that description, which has to outlive the rows.
 std::vector<ImageRow> all_images(const InterfaceDescription& description);
+
+/// The sizes of the program's icon, at one pixel a point.
+std::vector<ImageRow> all_icons();
 
 /// One image, drawn.
 Canvas drawn(const ImageRow& row, int scale);

@@ -117,47 +117,68 @@ Tint rubber_knob(const Rubber& rubber, Point point)
 
 } // namespace
 
-void paint_knob(Canvas& canvas, KnobKind kind)
+Tint knob_tint(KnobKind kind, Point p)
 {
     const KnobShape& shape = shape_of(kind);
-    const double half = shape.picture * 0.5, margin = half - shape.radius;
-    canvas.shade(canvas.bounds(), [&](Point at) {
-        const Point p{at.x - half, at.y - half};
-        const auto body = [&]() -> Tint {
-            switch (kind) {
-            case KnobKind::red:
-                return circle(p, shape.radius) < 0.0 ? red_knob(p) : kClear;
-            case KnobKind::big_rubber:
-                return outline(kBigRubber, p) < 0.0 ? rubber_knob(kBigRubber, p) : kClear;
-            case KnobKind::small_rubber:
-                return outline(kSmallRubber, p) < 0.0 ? rubber_knob(kSmallRubber, p) : kClear;
-            }
-            return kClear;
-        };
-        return over(body(), shadow(p, shape.radius, margin));
-    });
+    const auto body = [&]() -> Tint {
+        switch (kind) {
+        case KnobKind::red:
+            return circle(p, shape.radius) < 0.0 ? red_knob(p) : kClear;
+        case KnobKind::big_rubber:
+            return outline(kBigRubber, p) < 0.0 ? rubber_knob(kBigRubber, p) : kClear;
+        case KnobKind::small_rubber:
+            return outline(kSmallRubber, p) < 0.0 ? rubber_knob(kSmallRubber, p) : kClear;
+        }
+        return kClear;
+    };
+    return over(body(), shadow(p, shape.radius, shape.picture * 0.5 - shape.radius));
+}
+
+void paint_knob(Canvas& canvas, KnobKind kind)
+{
+    const double half = shape_of(kind).picture * 0.5;
+    canvas.shade(canvas.bounds(), [&](Point at) { return knob_tint(kind, {at.x - half, at.y - half}); });
+}
+
+void print_scale(Canvas& canvas, Point center, const KnobShape& shape, double size)
+{
+    cairo_t* const context = canvas.context();
+    cairo_set_line_cap(context, CAIRO_LINE_CAP_BUTT);
+    for (int tick = 0; tick <= 10; ++tick) {
+        const bool major = tick % 5 == 0;
+        const double angle = (225.0 - 27.0 * tick) * std::numbers::pi / 180.0;
+        const double from = size * shape.scale_radius, to = from + size * (major ? 4.5 : 3.0);
+        cairo_move_to(context, center.x + from * std::cos(angle), center.y + from * std::sin(angle));
+        cairo_line_to(context, center.x + to * std::cos(angle), center.y + to * std::sin(angle));
+        cairo_set_line_width(context, size * (major ? 1.6 : 1.1));
+        canvas.set_source(major ? kTickMajor : kTickMinor);
+        cairo_stroke(context);
+    }
+}
+
+Tint marker_tint(Marker marker, Point p)
+{
+    constexpr double kSocket = 5.8, kDot = kMarkerDot;
+    const bool held = marker == Marker::held;
+    const double r = std::hypot(p.x, p.y);
+    Tint tint = with_alpha(kShadow, 0.85 * (1.0 - smooth_step(kSocket - 1.4, kSocket, r)));
+    if (held) {
+        const double glow = 1.0 - smooth_step(kDot - 1.0, kMarkerPicture * 0.5, r);
+        tint = over(with_alpha(kBlueGlow, 0.85 * glow * glow), tint);
+    }
+    if (r < kDot) {
+        const Tint core = held ? mix(kBlueHot, kBlueGlow, smooth_step(1.2, kDot, r))
+                               : mix(kBlueDot, scaled(kBlueDot, 0.55), smooth_step(1.0, kDot, r));
+        const double glint = 1.0 - smooth_step(0.3, 1.6, std::hypot(p.x + 1.1, p.y - 1.2));
+        tint = mix(core, kBlueHot, (held ? 0.8 : 0.5) * glint);
+    }
+    return tint;
 }
 
 void paint_marker(Canvas& canvas, Marker marker)
 {
-    constexpr double kSocket = 5.8, kDot = 4.0;
-    const bool held = marker == Marker::held;
-    canvas.shade(canvas.bounds(), [&](Point at) {
-        const Point p{at.x - kMarkerPicture * 0.5, at.y - kMarkerPicture * 0.5};
-        const double r = std::hypot(p.x, p.y);
-        Tint tint = with_alpha(kShadow, 0.85 * (1.0 - smooth_step(kSocket - 1.4, kSocket, r)));
-        if (held) {
-            const double glow = 1.0 - smooth_step(kDot - 1.0, kMarkerPicture * 0.5, r);
-            tint = over(with_alpha(kBlueGlow, 0.85 * glow * glow), tint);
-        }
-        if (r < kDot) {
-            const Tint core = held ? mix(kBlueHot, kBlueGlow, smooth_step(1.2, kDot, r))
-                                   : mix(kBlueDot, scaled(kBlueDot, 0.55), smooth_step(1.0, kDot, r));
-            const double glint = 1.0 - smooth_step(0.3, 1.6, std::hypot(p.x + 1.1, p.y - 1.2));
-            tint = mix(core, kBlueHot, (held ? 0.8 : 0.5) * glint);
-        }
-        return tint;
-    });
+    const double half = kMarkerPicture * 0.5;
+    canvas.shade(canvas.bounds(), [&](Point at) { return marker_tint(marker, {at.x - half, at.y - half}); });
 }
 
 } // namespace r7::art

@@ -1,9 +1,10 @@
 // "r7-bg": the face plate. In order: the brushed plate, the recesses of the groups, what surrounds each
-// control, the displays' glass, the header.
+// control, the displays' glass, the header; and the status bar.
 #include "resources/art/plate.h"
 
 #include "resources/art/glass.h"
 #include "resources/art/header.h"
+#include "resources/art/knobs.h"
 #include "resources/art/lettering.h"
 #include "resources/art/palette.h"
 #include "resources/art/recess.h"
@@ -29,39 +30,25 @@ double grain(Point p, int scale)
     return std::lerp(noise(cell, row), noise(cell + 1, row), smooth_step(0.0, 1.0, along - cell));
 }
 
-void paint_plate(Canvas& canvas)
+// A brushed plate over the whole canvas, whose lower edge lies at `bottom` in a panel of that size.
+void paint_plate(Canvas& canvas, const Size& panel, double bottom)
 {
     const Size size = canvas.size();
     canvas.shade(
         canvas.bounds(),
         [&](Point p) {
-            const Tint base = mix(kPlateBottom, kPlateTop, p.y / size.height);
-            const double from_light =
-                std::hypot((p.x - 0.25 * size.width) / size.width, (p.y - 0.95 * size.height) / size.height);
-            const Tint plate = scaled(base, 1.10 - 0.22 * from_light + 0.035 * grain(p, canvas.scale()));
+            const double y = p.y + bottom;
+            const Tint base = mix(kPlateBottom, kPlateTop, y / panel.height);
+            const double from_light = std::hypot((p.x - 0.25 * panel.width) / panel.width,
+                                                 (y - 0.95 * panel.height) / panel.height);
+            const Tint plate =
+                scaled(base, 1.10 - 0.22 * from_light + 0.035 * grain({p.x, y}, canvas.scale()));
             // The edges are broken: the upper and left ones catch the light.
             if (p.y > size.height - 1.0 || p.x < 1.0) return mix(plate, kEdgeLight, 0.5);
             if (p.y < 1.0 || p.x > size.width - 1.0) return mix(plate, kEdgeDark, 0.6);
             return plate;
         },
         1);
-}
-
-// The scale of a knob: 11 ticks over 270 degrees, the gap at the bottom.
-void print_scale(Canvas& canvas, Point center, const KnobShape& shape)
-{
-    cairo_t* const context = canvas.context();
-    cairo_set_line_cap(context, CAIRO_LINE_CAP_BUTT);
-    for (int tick = 0; tick <= 10; ++tick) {
-        const bool major = tick % 5 == 0;
-        const double angle = (225.0 - 27.0 * tick) * std::numbers::pi / 180.0;
-        const double from = shape.scale_radius, to = from + (major ? 4.5 : 3.0);
-        cairo_move_to(context, center.x + from * std::cos(angle), center.y + from * std::sin(angle));
-        cairo_line_to(context, center.x + to * std::cos(angle), center.y + to * std::sin(angle));
-        cairo_set_line_width(context, major ? 1.6 : 1.1);
-        canvas.set_source(major ? kTickMajor : kTickMinor);
-        cairo_stroke(context);
-    }
 }
 
 // The dark of the plate where a knob stands, and the knob's longer shadow.
@@ -155,7 +142,7 @@ void paint_groups(Canvas& canvas)
 
 void paint_background(Canvas& canvas, const InterfaceDescription& description)
 {
-    paint_plate(canvas);
+    paint_plate(canvas, canvas.size(), 0.0);
     paint_groups(canvas);
     paint_knobs_surroundings(canvas, description);
     print_labels(canvas, description);
@@ -164,6 +151,13 @@ void paint_background(Canvas& canvas, const InterfaceDescription& description)
         if (const ViewDescription* const view = description.find(row.outlet))
             paint_display(canvas, view->frame, row, kTitleStyle);
     paint_header(canvas);
+}
+
+void paint_status_bar(Canvas& canvas, const InterfaceDescription& description)
+{
+    paint_plate(canvas, description.panel_size, -kStatusBarHeight);
+    const Rect room{16.0, 8.0, description.panel_size.width - 32.0, 9.0};
+    cut_recess(canvas, inset(room, -kGroupMargin), 5.0, 0.42);
 }
 
 } // namespace r7::art

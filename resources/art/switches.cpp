@@ -46,7 +46,7 @@ struct Rocker {
         Tint tint = lit(material, normal);
         // The half that is pressed lies in the shadow of the frame, the other one stands in the light.
         const double down = tilt * (p.x - middle.x) / (cap.width * 0.5); // 1 at the end that is pressed
-        if (tilt != 0.0) tint = scaled(tint, down > 0.0 ? 0.78 - 0.46 * down : 1.22);
+        if (tilt != 0.0) tint = scaled(tint, down > 0.0 ? 0.62 - 0.40 * down : 1.30);
         return mix(tint, kInk, 0.85 * ink(p));
     }
 

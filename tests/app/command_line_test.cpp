@@ -18,6 +18,8 @@ TEST(CommandLine, OpensAWindowPlaysFilesAndTakesASnapshot)
 {
     const auto plain = std::get<WindowOptions>(read({}));
     EXPECT_FALSE(plain.trace || plain.scale || plain.resources);
+    EXPECT_TRUE(plain.status);
+    EXPECT_FALSE(std::get<WindowOptions>(read({"--no-status"})).status);
     const auto full = std::get<WindowOptions>(read({"--trace", "--scale", "2.5", "--resources", "a b"}));
     EXPECT_TRUE(full.trace);
     EXPECT_EQ(full.scale, 2.5);
@@ -58,6 +60,7 @@ TEST(CommandLine, RefusesEverythingElse)
         {"snapshot"},
         {"snapshot", "a", "b"},
         {"--trace", "play", "a"},
+        {"--no-status", "play", "a"},
         {"--scale", "2", "snapshot", "a"},
         {"--resources", "d", "snapshot", "a"},
         {"text", "a"},

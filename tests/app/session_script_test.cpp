@@ -38,16 +38,6 @@ TEST(SessionScript, ReadsOptionalWordsAndNumbersInTheirOwnPrecision)
     EXPECT_EQ(last_of<session::UnitEvent>("unit event 1 4294967295").id, 4294967295U);
 }
 
-TEST(SessionScript, SkipsCommentsAndBlanksAndCountsLines)
-{
-    const auto read = read_script("# a session\r\n\n \t show \t unit#and no more\r\n\nwait 1");
-    const auto& script = std::get<Script>(read);
-    ASSERT_EQ(script.size(), 2U);
-    EXPECT_EQ(script[0].line, 3);
-    EXPECT_EQ(std::get<session::Show>(script[0].command).subjects.size(), 1U);
-    EXPECT_EQ(script[1].line, 5) << "the last line needs no end";
-}
-
 TEST(SessionScript, SaysWhatIsWrong)
 {
     const std::string form = "press NAME [at X Y] [clicks N] [right]";

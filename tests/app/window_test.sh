@@ -48,15 +48,28 @@ stays() {
     [[ $(xwininfo -id "$window" | grep Absolute) == "$before" ]]
 }
 
+# start_panel OPTION
 start_panel() {
-    timeout -k 5 60 "$program" --trace --scale 1 >"$work/trace" 2>"$work/complaint" &
+    timeout -k 5 60 "$program" --scale 1 "$1" >"$work/trace" 2>"$work/complaint" &
     panel=$!
 }
 
+# open_panel OPTION
 open_panel() {
-    start_panel
+    start_panel "$1"
     within 30 is_shown || die "the window does not appear: $(<"$work/complaint")"
     within 30 stays || die "the window does not stay where it is"
+}
+
+# is_described SIZE: to the window manager.
+is_described() {
+    diff -u - <(xprop -id "$window" WM_CLASS _NET_WM_NAME WM_NORMAL_HINTS) <<END || die "the window manager is told otherwise"
+WM_CLASS(STRING) = "r7", "r7"
+_NET_WM_NAME(UTF8_STRING) = "R7"
+WM_NORMAL_HINTS(WM_SIZE_HINTS):
+		program specified minimum size: $1
+		program specified maximum size: $1
+END
 }
 
 # expect_end STATUS HOW [COMPLAINT]
@@ -164,25 +177,18 @@ release
 END
 
 open_display 8
-start_panel
+start_panel --trace
 expect_end 3 "pixels of 8 bits" "r7: the display has no pixels of 32 bits in this machine's order"
 kill "$server"
 
 open_display
-open_panel
+open_panel --trace
 find_frames
+is_described "${width[panel]} by $((height[panel] + 24))" # with the line of status below
 perform
 "$program" play "$session" >"$work/expected"
 within 10 traced "$(wc -l <"$work/expected")" || true
 diff -u <(without_places "$work/expected") <(without_places "$work/trace") || die "the trace differs from the session's"
-
-diff -u - <(xprop -id "$window" WM_CLASS _NET_WM_NAME WM_NORMAL_HINTS) <<END || die "the window manager is told otherwise"
-WM_CLASS(STRING) = "r7", "r7"
-_NET_WM_NAME(UTF8_STRING) = "R7"
-WM_NORMAL_HINTS(WM_SIZE_HINTS):
-		program specified minimum size: ${width[panel]} by ${height[panel]}
-		program specified maximum size: ${width[panel]} by ${height[panel]}
-END
 
 if [[ -n $manager ]]; then
     xdotool windowfocus --sync "$window" key alt+F4
@@ -192,7 +198,8 @@ else
     expect_end 0 "ended by a signal"
 fi
 
-open_panel
+open_panel --no-status
+is_described "${width[panel]} by ${height[panel]}"
 point_at delay_depth_knob && xdotool mousedown 1 mousemove_relative 5 5
 kill "$server"
 expect_end 3 "the display is gone in mid-drag" "r7: the display was lost"

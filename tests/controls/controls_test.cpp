@@ -52,16 +52,6 @@ struct Rig {
     }
 };
 
-TEST(Knob, RedrawsForEveryGesture)
-{
-    Rig<QmKnobView> rig;
-    for (const auto gesture : {&View::mouseDown, &View::mouseDragged, &View::mouseUp, &View::rightMouseDown,
-                               &View::rightMouseDragged, &View::rightMouseUp})
-        for (const int clicks : {1, 2})
-            EXPECT_TRUE(rig.redraws([&](View& knob) { (knob.*gesture)({.click_count = clicks}); }));
-    EXPECT_TRUE(rig.redraws([](View& knob) { knob.scrollWheel({}); }));
-}
-
 TEST(Knob, TakesItsRangeInOrderAndKeepsItsValueWithin)
 {
     const double rows[][8] = {
@@ -107,18 +97,6 @@ TEST(Knob, MarkerSweepsClockwiseFromLowerLeftAndShowsWhetherItIsHeld)
         row.held ? rig.control->mouseDown({}) : rig.control->mouseUp({});
         EXPECT_EQ(rig.drawn(), std::string("draw_image 40x30 at 30,25 over 1; ") + row.marker);
     }
-}
-
-TEST(Knob, MayBeDestroyedInsideItsOwnCallback)
-{
-    struct Wrecker final : ActionTarget, Rig<QmKnobView> {};
-    const auto wrecker = std::make_shared<Wrecker>();
-    const std::weak_ptr<QmKnobView> knob = std::exchange(wrecker->control, nullptr);
-    knob.lock()->set_callback_onObject(
-        [](ActionTarget& own, View&) { static_cast<Wrecker&>(own).window->set_content_view(nullptr); },
-        wrecker);
-    wrecker->window->press(MouseButton::primary, {.location_in_window = {80, 60}, .click_count = 2});
-    EXPECT_TRUE(knob.expired());
 }
 
 TEST(ModeKnob, SelectionIsTheEntryAtTheValueRoundedDown)

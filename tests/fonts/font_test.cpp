@@ -29,28 +29,6 @@ TEST(Font, MeasuresAreLinearInTheSizeAddUpAndFitTheEditorsLabels)
     EXPECT_LT(font.line_height(9.0), 15.0);
 }
 
-TEST(Font, OutlinesAreClosedAndStandOnTheBaseline)
-{
-    for (char32_t c = 0x20; c < 0x100; ++c) {
-        bool open = false;
-        const Path outline = outline_of(c);
-        for (const Path::Element& element : outline.elements()) {
-            EXPECT_EQ(open, element.verb != Path::Verb::move) << "code point " << std::uint32_t{c};
-            open = element.verb != Path::Verb::close;
-        }
-        EXPECT_FALSE(open) << "code point " << std::uint32_t{c};
-    }
-    const Path capital = outline_of(U'E', 100.0, {10.0, 20.0});
-    double lowest = 1e9, highest = -1e9;
-    for (const Path::Element& element : capital.elements()) {
-        if (element.verb == Path::Verb::close) continue;
-        lowest = std::min(lowest, element.end().y);
-        highest = std::max(highest, element.end().y);
-    }
-    EXPECT_DOUBLE_EQ(lowest, 20.0);
-    EXPECT_NEAR(highest, 20.0 + 72.9, 0.1); // the height of a capital
-}
-
 TEST(Font, CharactersThatItLacksShowAsTheMissingCharacterBox)
 {
     const Path box = outline_of(U'\uFFFD'), letter = outline_of(U'A');

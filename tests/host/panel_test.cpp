@@ -1,7 +1,6 @@
 // The panel and its unit: values in, values out, binding and the end.
 #include "tests/support/panel_rig.h"
 
-#include "host/panel_tables.h"
 #include "host/parameter_values.h"
 
 #include <gtest/gtest.h>
@@ -15,8 +14,6 @@ namespace {
 constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
 constexpr float kInfinity = std::numeric_limits<float>::infinity();
 
-using Sets = std::vector<std::pair<AudioUnitParameterID, float>>;
-
 TEST(Panel, ShowsTheUnitsValuesOnceItIsBound)
 {
     PanelRig rig;
@@ -27,54 +24,6 @@ TEST(Panel, ShowsTheUnitsValuesOnceItIsBound)
     EXPECT_FALSE(rig.panel->delay_on_indicator_light->indicator_state());
     EXPECT_EQ(rig.panel->stage_one_data().pos_M, rig.unit->record(Stage::one).pos_M);
     EXPECT_TRUE(rig.observer.sets.empty());
-}
-
-TEST(Panel, StartsAsConfiguredBeforeAnyUnitIsBound)
-{
-    PanelRig rig;
-    const auto panel = rig.factory.uiViewForAudioUnit_withSize(nullptr, {});
-    EXPECT_EQ(panel->event_listener(), nullptr);
-    // Two knobs away from their defaults, the lamp on although the depth is 0, the vowels one apart: all
-    // meant.
-    EXPECT_EQ(panel->output_level->current_value(), 0.0);
-    EXPECT_EQ(panel->delay_cutoff_q_knob->current_value(), 0.0);
-    EXPECT_TRUE(panel->delay_on_indicator_light->indicator_state());
-    EXPECT_EQ(panel->start_vowel_mode->current_menu_selection(), 0);
-    EXPECT_EQ(panel->start_vowel_light->indicator_state(), 1);
-    EXPECT_EQ(panel->end_vowel_mode->current_menu_selection(), 1);
-    EXPECT_EQ(panel->end_vowel_light->indicator_state(), 2);
-    EXPECT_EQ(panel->wah_mode_light->indicator_state(), 1);
-    PanelRig::drag(*panel->delay_depth_knob, 10, 0);
-    EXPECT_NEAR(panel->delay_depth_knob->current_value(), 0.1, 1e-6);
-}
-
-TEST(Panel, EachKnobSetsItsParameterAndShowsItsAutomation)
-{
-    PanelRig rig;
-    for (const KnobRow& row : kKnobRows) {
-        SCOPED_TRACE(row.id);
-        QmKnobView& knob = *(rig.panel.get()->*row.field);
-        rig.unit->automate(row.id, static_cast<float>(row.minimum));
-        rig.deliver();
-        rig.observer = {};
-
-        PanelRig::drag(knob, 3, -2);
-        const float step = static_cast<float>(5 * row.scale);
-        const double moved = std::min(row.minimum + step, row.maximum);
-        EXPECT_EQ(knob.current_value(), moved);
-        EXPECT_EQ(rig.observer.sets, (Sets{{row.id, static_cast<float>(moved)}}));
-
-        rig.deliver();
-        EXPECT_EQ(rig.observer.deliveries, 0) << "its own change came back";
-        rig.unit->automate(row.id, static_cast<float>(row.maximum) + 7.0f);
-        rig.deliver();
-        EXPECT_EQ(knob.current_value(), row.maximum);
-        EXPECT_EQ(rig.observer.sets.size(), 1u) << "an event was answered with a set";
-
-        PanelRig::press(knob, 0.5, 2);
-        EXPECT_EQ(knob.current_value(), row.default_value);
-        EXPECT_EQ(rig.unit->parameter(row.id), static_cast<float>(row.default_value));
-    }
 }
 
 TEST(Panel, TheWahLampIsSetBeforeTheParameterAndTheVowelLampsAfterTheirs)

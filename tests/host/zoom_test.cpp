@@ -158,57 +158,5 @@ TEST_F(Zoom, ToneParametersReachEditorAndDisplayHiddenOrNot)
     EXPECT_TRUE(observer.sets.empty());
 }
 
-TEST_F(Zoom, AnEditSendsAllFifteenValuesInTheOrderOfItsToneControl)
-{
-    const std::vector<UInt32> orders[] = {{0, 1, 2, 7, 6, 8, 4, 3, 5, 10, 9, 11, 12, 13, 14},
-                                          {15, 16, 17, 19, 18, 20, 22, 21, 23, 25, 24, 26, 27, 28, 29}};
-    for (std::size_t i = 0; i < 2; ++i) {
-        observer = {};
-        Qm_ParametricEQView& editor = *(*panel.*kToneRows[i].editor);
-        editor.reset_paramters_to_defaults();
-        std::vector<UInt32> ids;
-        for (const auto& [id, value] : observer.sets) ids.push_back(id);
-        EXPECT_EQ(ids, orders[i]);
-
-        const Point at{editor.handle(ToneBand::kToneMid).x + 12, editor.handle(ToneBand::kToneMid).y + 12};
-        editor.mouseDown({.location_in_window = editor.convert_to_window(at)});
-        editor.mouseDragged({.delta_x = 0, .delta_y = -10});
-        editor.mouseUp({});
-        EXPECT_EQ(observer.sets.size(), 30u);
-        EXPECT_EQ(unit->parameter(kToneRows[i].base + 8), 4.0f);
-        EXPECT_EQ((*panel.*kToneRows[i].display)->levelMid(), 4.0f);
-    }
-}
-
-TEST_F(Zoom, AnyValueAndAnyRecordLeavesViewsThatShowTheNextOne)
-{
-    constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
-    constexpr float kInfinity = std::numeric_limits<float>::infinity();
-    const PanelRig fresh;
-    for (const float value : {kNaN, kInfinity, -kInfinity, 1e38f, 0.0f}) {
-        for (UInt32 id = 0; id < 54; ++id) unit->automate(id, value);
-        for (const Stage stage : {Stage::one, Stage::two}) {
-            CurvePoints points{};
-            for (auto& point : points) point = {value, value};
-            unit->take_curve(stage, points);
-            unit->take_level(stage, value);
-        }
-        deliver();
-        window->take_dirty_region(); // brings all that is visible up to date
-    }
-    for (const ParameterRow& row : kParameters) unit->automate(row.id, row.start);
-    for (const Stage stage : {Stage::one, Stage::two}) {
-        unit->take_curve(stage, bent_curve());
-        fresh.unit->take_curve(stage, bent_curve());
-    }
-    deliver();
-    EXPECT_EQ(panel->wave_shaper_one_display->response_for_in_amplitude(0.25f),
-              panel->wave_shaper_two_display->response_for_in_amplitude(0.25f));
-    EXPECT_EQ(panel->wave_shaper_one_display->response_for_in_amplitude(0.6f), 0.7f);
-    for (const float hz : {20.0f, 1000.0f, 15000.0f})
-        EXPECT_EQ(panel->pre_tone_control_display->responseForFrequency(hz),
-                  fresh.panel->pre_tone_control_display->responseForFrequency(hz));
-}
-
 } // namespace
 } // namespace r7

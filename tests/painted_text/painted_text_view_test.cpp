@@ -74,25 +74,6 @@ TEST(PaintedText, ASizeThatIsNoneIsTheOnlyValueThatBuildsNothing)
     }
 }
 
-TEST(PaintedText, TheSameImageTwiceIsRedrawnOnce)
-{
-    PaintedTextRig rig;
-    const ImageRef image = fake_image(10, 10);
-    const struct {
-        const ImageRef image;
-        Rect dirty, asked_for;
-    } cases[] = {{image, kInfiniteRect, {10, 10, 200, 60}},
-                 {image, kInfiniteRect, {}},
-                 {image, {0, 0, 5, 5}, {}},
-                 {nullptr, {1, 2, 3, 4}, {11, 12, 3, 4}}};
-    rig.redraw_requested();
-    for (const auto& c : cases) {
-        rig.view->setImage_dirtyRect(c.image, c.dirty);
-        EXPECT_EQ(rig.redraw_requested(), c.asked_for);
-        EXPECT_EQ(rig.view->image(), c.image);
-    }
-}
-
 TEST(PaintedText, NewBoundsShowTheOldTextImageUntilASetterIsUsed)
 {
     PaintedTextRig rig;
@@ -173,18 +154,6 @@ TEST(PaintedText, OfAnySortInAViewOfAnySizeDoesNoHarm)
             EXPECT_EQ(view->image() != nullptr, c.has_image) << c.text.substr(0, 9) << c.size.width;
         }
         EXPECT_EQ(rig.shows_something(), c.shows) << c.text.substr(0, 9) << c.font_size;
-    }
-}
-
-TEST(PaintedText, WithoutTheBallShowsNothing)
-{
-    const ScratchFile ball("lightball.tiff");
-    const std::string good = bytes_of(R7_RESOURCES "/lightball.tiff"), none, half(good, 0, good.size() / 2);
-    for (const std::string& bytes : {none, half, good}) {
-        if (bytes != none) ball.write(bytes);
-        PaintedTextRig rig({200, 60}, no_context, ball.folder);
-        rig.view->set_text_string("text");
-        EXPECT_EQ(rig.shows_something(), bytes == good);
     }
 }
 

@@ -2,7 +2,7 @@
 #include "platform/cairo/back_buffer.h"
 #include "platform/graphics.h"
 #include "platform/window.h"
-#include "tests/platform/canvas.h"
+#include "tests/support/canvas.h"
 
 #include <unistd.h>
 
@@ -89,25 +89,6 @@ TEST_F(BackBufferTest, PaintsWhatWasAskedForOnBlack)
                       intersection(part[0], {x, y, 1, 1}).is_empty() ? 0xFFFF0000u : 0xFF808080u);
 }
 
-TEST_F(BackBufferTest, PatternsRepeatFromTheirWindowsCorner)
-{
-    const ColorRef pattern = Color::pattern(Image::painted({4, 4}, [](Graphics& g) {
-        g.fill_rect({0, 0, 1, 1}, kRed.get(), Compositing::copy);
-    }));
-    const auto paint = [=](Graphics& g) { g.fill_rect({0, 0, 9, 9}, pattern.get(), Compositing::copy); };
-    const auto content = std::make_shared<View>(Rect{0, 0, 120, 80});
-    content->add_subview(std::make_shared<Painting>(Rect{2, 0, 9, 9}, paint));
-    window->set_content_view(content);
-    const auto child = std::make_shared<Window>(Rect{21, 0, 9, 9});
-    child->set_content_view(std::make_shared<Painting>(Rect{0, 0, 9, 9}, paint));
-    window->add_child_window(*child);
-    BackBuffer picture({120, 80}, 1.0);
-    picture.repaint(*window);
-    for (int x = 0; x < 40; ++x)
-        EXPECT_EQ(word(picture, x, 79) == 0xFFFF0000u, x == 4 || x == 8 || x == 21 || x == 25 || x == 29)
-            << x;
-}
-
 TEST_F(BackBufferTest, PartialRepaintsAddUpToAFullOne)
 {
     std::mt19937 random(20260722);
@@ -149,6 +130,7 @@ TEST_F(BackBufferTest, PartialRepaintsAddUpToAFullOne)
         for (int i = 0; i < 40; ++i) window->content_view()->add_subview(random_view(rect(30)));
         const auto child = std::make_shared<Window>(Rect{30.5, 20, 60, 40});
         child->set_content_view(random_view({0, 0, 60, 40}));
+        child->has_shadow = true;
         window->add_child_window(*child);
         BackBuffer picture({120, 80}, scale), whole({120, 80}, scale);
         picture.repaint(*window);

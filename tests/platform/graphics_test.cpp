@@ -1,5 +1,5 @@
 // Drawing: what is lit, and what is not.
-#include "tests/platform/canvas.h"
+#include "tests/support/canvas.h"
 
 #include <chrono>
 #include <limits>
@@ -133,17 +133,6 @@ TEST(Graphics, PathsAreFilledAndStrokedToTheEdge)
     }
 }
 
-TEST(Graphics, ARingShowsNoSeam)
-{
-    Path ring;
-    ring.line_width = 6;
-    ring.move_to({20, 9});
-    ring.append_arc({20, 20}, 11, 270, -90, Path::Direction::clockwise);
-    const Canvas canvas(40, 40, [&](Graphics& g) { g.stroke(ring, kWhite.get()); });
-    for (int y = 7; y < 12; ++y)
-        for (int x = 18; x < 22; ++x) EXPECT_GE(canvas.alpha(x, y), 250) << x << ' ' << y;
-}
-
 TEST(Graphics, PatternsRepeatFromTheLowerLeftCorner)
 {
     const ColorRef pattern = Color::pattern(stripes());
@@ -191,23 +180,6 @@ TEST(Graphics, ImagesOnWholePixelsAreExactAndBetweenThemBlended)
         EXPECT_NEAR(blended.at(x, 1).red, red, 2) << x;
         EXPECT_NEAR(blended.at(x, 1).green, green, 2) << x;
         EXPECT_NEAR(blended.alpha(x, 1), alpha, 2) << x;
-    }
-}
-
-TEST(Graphics, AnImagesFractionIsItsOpacity)
-{
-    const ImageRef image = stripes();
-    for (const auto& [how, fraction, expected] : {std::tuple(kOver, 1.0, kRedPixel),
-                                                  {kOver, 7.0, kRedPixel},
-                                                  {kOver, 0.5, Pixel{255, 127, 127, 255}},
-                                                  {kOver, 0.0, kWhitePixel},
-                                                  {kCopy, 0.5, Pixel{128, 0, 0, 128}},
-                                                  {kCopy, 0.0, Pixel{}}}) {
-        const Canvas canvas(4, 2, [&, how = how, fraction = fraction](Graphics& g) {
-            g.fill_rect({0, 0, 4, 2}, kWhite.get(), kOver);
-            g.draw_image(image.get(), {0, 0}, how, fraction);
-        });
-        EXPECT_EQ(canvas.at(0, 0), expected) << fraction;
     }
 }
 
@@ -311,25 +283,6 @@ TEST(Graphics, GarbageIsPaintedQuicklyAndLeavesPixelsValid)
             const Pixel p = canvas.at(x, y);
             ASSERT_LE(std::max({p.red, p.green, p.blue}), p.alpha);
         }
-}
-
-TEST(Graphics, DroppedVerticesChangeNoPixelVisibly)
-{
-    Path path;
-    path.line_width = 2.0;
-    const SurfaceRef whole = make_picture({210, 120}, 1.0);
-    const std::unique_ptr<cairo_t, decltype(&cairo_destroy)> cairo(cairo_create(whole.get()), cairo_destroy);
-    for (int i = 0; i < 512; ++i) {
-        const double x = i * 0.4, y = 60 + 50 * std::tanh(2 * std::sin(x * 0.06)) + 5 * std::sin(x * 0.9);
-        path.line_to({x, y});
-        cairo_line_to(cairo.get(), x, 120 - y);
-    }
-    cairo_stroke(cairo.get());
-    const Canvas canvas(210, 120, [&](Graphics& g) { g.stroke(path, kWhite.get()); });
-    const unsigned char* bytes = cairo_image_surface_get_data(whole.get());
-    for (int y = 0; y < 120; ++y)
-        for (int x = 0; x < 210; ++x)
-            EXPECT_NEAR(canvas.alpha(x, y), bytes[((119 - y) * 210 + x) * 4 + 3], 11) << x << ' ' << y;
 }
 
 TEST(CairoContext, AnErrorLosesNoLaterDrawing)

@@ -1,6 +1,6 @@
 // Images: files that are read and files that are refused, the twin of twice the pixels, painted images.
 #include "platform/cairo/image_pixels.h"
-#include "tests/platform/canvas.h"
+#include "tests/support/canvas.h"
 
 #include <sys/resource.h>
 #include <unistd.h>
@@ -185,34 +185,6 @@ TEST(PaintedImage, IsSharpAtEveryScaleAndNeedsNobodyElse)
         expect_lit(painted(image, scale),
                    {{{2, 2, 1.5, 1.5}, green}, {{6, 6, 1, 1}, green}, {{9, 7, 1, 1}, green}}, scale);
     EXPECT_EQ(calls, 1);
-}
-
-TEST(PaintedImage, IsCompositedAsAWhole)
-{
-    const ImageRef image = Image::painted({4, 4}, [](Graphics& g) {
-        g.fill_rect({0, 0, 4, 4}, Color::device_rgba(1, 0, 0, 1).get(), Compositing::source_over);
-        g.fill_rect({0, 0, 4, 4}, Color::device_rgba(0, 0, 1, 1).get(), Compositing::source_over);
-        g.fill_rect({0, 0, 1, 4}, Color::device_white(0, 0).get(), Compositing::copy);
-    });
-    const Canvas canvas(4, 4, [&](Graphics& g) {
-        g.fill_rect({0, 0, 4, 4}, Color::device_white(1, 1).get(), Compositing::copy);
-        g.draw_image(image.get(), {}, Compositing::source_over, 0.5);
-    });
-    EXPECT_EQ(canvas.at(2, 2), (Pixel{127, 127, 255, 255}))
-        << "the red below the blue does not shine through";
-    EXPECT_EQ(canvas.at(0, 2), (Pixel{255, 255, 255, 255})) << "a copy replaces only what the image has";
-}
-
-TEST(PaintedImage, GivesItsPixelsToWhoeverShowsItWithoutPainting)
-{
-    const ImageRef image = Image::painted({2.5, 2}, [](Graphics& g) {
-        g.fill_rect({0, 1, 1, 1}, Color::device_rgba(1, 0, 0, 0.5).get(), Compositing::copy);
-    });
-    const ImagePixels pixels = image_pixels(*image, 1.0);
-    const std::uint32_t expected[6] = {0x80800000u};
-    EXPECT_EQ(std::pair(pixels.width, pixels.height), std::pair(3, 2));
-    ASSERT_EQ(pixels.bytes.size(), sizeof expected);
-    EXPECT_EQ(std::memcmp(pixels.bytes.data(), expected, sizeof expected), 0);
 }
 
 TEST(PaintedImage, NeedsASize)

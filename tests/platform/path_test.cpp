@@ -36,18 +36,6 @@ double swept(const Path& path)
     return sum * 180.0 / 3.14159265358979;
 }
 
-TEST(Path, LinesAtOnceAreTheLinesOneByOne)
-{
-    constexpr float kX[] = {1.0f, 2.5f, 4.0f}, kY[] = {0.1f, -3.0f, 7.0f};
-    Path at_once, one_by_one;
-    for (Path* path : {&at_once, &one_by_one}) path->curve_to({1, 2}, {3, 4}, {5, 6});
-    at_once.append_lines(kX, kY);
-    for (int i = 0; i < 3; ++i) one_by_one.line_to({kX[i], kY[i]});
-    EXPECT_TRUE(std::ranges::equal(at_once.elements(), one_by_one.elements()));
-    at_once.append_lines({}, {});
-    EXPECT_EQ(at_once.current_point(), one_by_one.current_point());
-}
-
 TEST(Path, ArcsSweepTheDifferenceOfTheirAnglesModuloOneTurn)
 {
     struct Row {
@@ -88,15 +76,6 @@ TEST(Path, ArcsSweepTheDifferenceOfTheirAnglesModuloOneTurn)
         path.append_arc({0, 0}, 7.0, start, end, Path::Direction::clockwise);
         EXPECT_TRUE(path.is_empty()) << start << " -> " << end;
     }
-}
-
-TEST(Path, OvalsAreClosedAndGoOnceAround)
-{
-    Path path;
-    path.append_oval({-7, -7, 14, 14});
-    EXPECT_NEAR(swept(path), 360.0, 1e-6);
-    EXPECT_EQ(path.elements().back().verb, Path::Verb::close);
-    EXPECT_EQ(path.current_point(), (Point{7, 0}));
 }
 
 TEST(Path, FlatteningStaysWithinTheTolerance)

@@ -1,4 +1,4 @@
-// Simplification and clipping of lines and polygons.
+// Simplification of lines.
 #include "platform/cairo/polyline.h"
 
 #include <gtest/gtest.h>
@@ -18,20 +18,8 @@ double distance_to_segment(Point p, Point a, Point b)
     return std::hypot(p.x - a.x - way.x * t, p.y - a.y - way.y * t);
 }
 
-int winding_number(const Line& polygon, Point p)
-{
-    int winding = 0;
-    for (std::size_t i = 0; i < polygon.size(); ++i) {
-        const Point a = polygon[i], b = polygon[(i + 1) % polygon.size()];
-        if ((a.y <= p.y) == (b.y <= p.y)) continue;
-        if (a.x + (p.y - a.y) / (b.y - a.y) * (b.x - a.x) > p.x) winding += b.y > a.y ? 1 : -1;
-    }
-    return winding;
-}
-
 struct Polyline : testing::Test {
     std::mt19937 random{20260722};
-    const Box box{-10, -8, 12, 9};
     double number(double from, double to) { return std::uniform_real_distribution(from, to)(random); }
     Point point(double reach) { return {number(-reach, reach), number(-reach, reach)}; }
 };
@@ -66,24 +54,6 @@ TEST_F(Polyline, SimplifyKeepsEveryDroppedVertexWithinTheTolerance)
     Line spike{{0, 0}, {5, 0}, {20, 0}, {5, 0}, {0, 0}, {0, 0}};
     simplify(spike, kTolerance);
     EXPECT_EQ(spike, (Line{{0, 0}, {20, 0}, {0, 0}})) << "a turning back stays";
-}
-
-TEST_F(Polyline, ClippedPolygonsWindAsBeforeInsideTheBox)
-{
-    Line scratch;
-    for (int round = 0; round < 300; ++round) {
-        const double reach = std::pow(10.0, number(0.5, 6));
-        Line polygon(3 + random() % 9);
-        for (Point& vertex : polygon) vertex = random() % 3 ? point(reach) : point(12);
-        Line clipped = polygon;
-        clip_polygon(clipped, box, scratch);
-        for (const Point p : clipped)
-            ASSERT_TRUE(p.x >= box.left && p.x <= box.right && p.y >= box.top && p.y <= box.bottom);
-        for (int i = 0; i < 50; ++i) {
-            const Point inside{number(-9.99, 11.99), number(-7.99, 8.99)};
-            ASSERT_EQ(winding_number(clipped, inside), winding_number(polygon, inside)) << "round " << round;
-        }
-    }
 }
 
 } // namespace

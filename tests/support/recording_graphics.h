@@ -22,7 +22,8 @@ inline std::string text_of(double number)
 /// their components, images by their sizes, paths by where they begin.
 struct DrawCall {
     std::string words;
-    Path path{}; ///< of a fill or a stroke
+    Path path{};                    ///< of a fill or a stroke
+    const Image* pattern = nullptr; ///< of its colour
 };
 
 class RecordingGraphics final : public Graphics {
@@ -39,10 +40,10 @@ public:
 
     void move_origin_to(Point origin) override { add("move_origin_to ", origin); }
     void clip_to(const Rect& rect) override { add("clip_to ", rect); }
-    void fill(const Path& path, const Color* color) override { add("fill ", color, path).path = path; }
+    void fill(const Path& path, const Color* color) override { keep(add("fill ", color, path), path, color); }
     void stroke(const Path& path, const Color* color) override
     {
-        add("stroke ", color, " width ", path.line_width, path).path = path;
+        keep(add("stroke ", color, " width ", path.line_width, path), path, color);
     }
     void fill_rect(const Rect& rect, const Color* color, Compositing how) override
     {
@@ -68,6 +69,12 @@ protected:
     void restore() override { add("restore"); }
 
 private:
+    static void keep(DrawCall& call, const Path& path, const Color* color)
+    {
+        call.path = path;
+        call.pattern = color ? color->pattern_image() : nullptr;
+    }
+
     static std::string text_of(std::string_view text) { return std::string(text); }
     static std::string text_of(double number) { return r7::text_of(number); }
     static std::string text_of(Point point) { return text_of(point.x) + "," + text_of(point.y); }

@@ -1,35 +1,13 @@
 // The embedded unit: what it starts with, what it takes from whom, and whom it tells.
 #include "platform/run_loop.h"
+#include "tests/support/counted_allocations.h"
 #include "tests/toolbox/toolbox_rig.h"
 #include "unit/embedded_unit.h"
 
 #include <gtest/gtest.h>
 
 #include <bit>
-#include <cstdlib>
 #include <cstring>
-#include <new>
-
-namespace {
-int allocations = 0;
-}
-
-void* operator new(std::size_t size)
-{
-    ++allocations;
-    if (void* memory = std::malloc(size)) return memory;
-    throw std::bad_alloc();
-}
-
-void operator delete(void* memory) noexcept
-{
-    std::free(memory);
-}
-
-void operator delete(void* memory, std::size_t) noexcept
-{
-    std::free(memory);
-}
 
 namespace r7 {
 namespace {
@@ -100,13 +78,13 @@ TEST_F(EmbeddedUnitTest, AnnouncesWhatItTakesItselfWithoutAllocating)
     for (const UInt32 id : {80110u, 80111u, 80112u, 80113u}) listener.ask_for(event_of(3, au, id));
     EXPECT_EQ(unit->record(Stage::two).needs_update, 0);
     EXPECT_EQ(unit->record(Stage::two).G[0], 3 * static_cast<double>(1.0F / 6.0F));
-    const int allocations_before = allocations;
+    const std::size_t before = allocations();
     unit->automate(53, 0.5F);
     unit->take_level(Stage::two, 0.75);
     unit->take_level(Stage::one, 0.25);
     // Points that no editor would leave: used as they are.
     unit->take_curve(Stage::two, {{{0, 0.5}, {1, 2}, {1, 3}, {2, 4}, {3, 4}, {3, 5}, {4, 6}}});
-    EXPECT_EQ(allocations, allocations_before);
+    EXPECT_EQ(allocations(), before);
     EXPECT_EQ(seen, "") << "the observer hears of others only";
     loop.advance(clock, std::chrono::milliseconds(50));
     EXPECT_EQ(listener.heard, "0:53=0.5 3:80113=0 3:80112=0 3:80111=0 ");
