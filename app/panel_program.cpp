@@ -15,6 +15,7 @@
 #include <csignal>
 #include <cstdio>
 #include <optional>
+#include <vector>
 
 namespace r7 {
 
@@ -35,6 +36,15 @@ const char* reason(X11OpenStatus status)
         return "the window would be too large for the display";
     }
     return "";
+}
+
+// The program's picture, in the sizes that the resources have.
+std::vector<ImageRef> icons_of(const Bundle& bundle)
+{
+    std::vector<ImageRef> icons;
+    for (const char* name : {"icon-16", "icon-24", "icon-32", "icon-48", "icon-64", "icon-128", "icon-256"})
+        icons.push_back(bundle.image_resource(name));
+    return icons;
 }
 
 ExitStatus no_display(const char* why)
@@ -65,6 +75,7 @@ ExitStatus show_panel(const WindowOptions& options, const std::filesystem::path&
     if (options.status) size.height += StatusLine::kHeight;
     X11WindowOptions wanted{.size = size, .title = "R7", .class_name = "r7"};
     wanted.scale = options.scale.value_or(0.0);
+    wanted.icons = icons_of(*bundle);
     wanted.close_requested = [&open] { open = false; };
     wanted.connection_lost = [&open, &lost] {
         open = false;

@@ -21,9 +21,8 @@ Modifiers modifiers_of(NSEvent* event)
     static_assert(NSEventModifierFlagShift == static_cast<NSUInteger>(Modifiers::shift));
     static_assert(NSEventModifierFlagControl == static_cast<NSUInteger>(Modifiers::control));
     static_assert(NSEventModifierFlagOption == static_cast<NSUInteger>(Modifiers::option));
-    static_assert(NSEventModifierFlagCommand == static_cast<NSUInteger>(Modifiers::command));
-    constexpr NSUInteger kKnown = NSEventModifierFlagShift | NSEventModifierFlagControl |
-                                  NSEventModifierFlagOption | NSEventModifierFlagCommand;
+    constexpr NSUInteger kKnown =
+        NSEventModifierFlagShift | NSEventModifierFlagControl | NSEventModifierFlagOption;
     return static_cast<Modifiers>([event modifierFlags] & kKnown);
 }
 

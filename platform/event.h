@@ -13,7 +13,6 @@ enum class Modifiers : std::uint32_t {
     shift = 0x20000,
     control = 0x40000,
     option = 0x80000,
-    command = 0x100000,
 };
 
 constexpr Modifiers operator|(Modifiers a, Modifiers b)

@@ -88,6 +88,7 @@ public:
     /// Set before the window is shown.
     bool has_shadow = false;
     bool is_opaque = true;
+    /// Whether views ask to hear of motion without a button. None does anything with it: back ends send none.
     bool accepts_mouse_moved_events = false;
     /// Painted under the content view; null paints nothing.
     ColorRef background_color;

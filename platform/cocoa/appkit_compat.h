@@ -20,7 +20,6 @@ inline constexpr NSUInteger NSEventTypeRightMouseDragged = NSRightMouseDragged;
 inline constexpr NSUInteger NSEventModifierFlagShift = NSShiftKeyMask;
 inline constexpr NSUInteger NSEventModifierFlagControl = NSControlKeyMask;
 inline constexpr NSUInteger NSEventModifierFlagOption = NSAlternateKeyMask;
-inline constexpr NSUInteger NSEventModifierFlagCommand = NSCommandKeyMask;
 #else
 inline constexpr bool kOnGNUstep = false;
 #endif

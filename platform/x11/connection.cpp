@@ -1,7 +1,9 @@
 // The connection to a display.
 #include "platform/x11/connection.h"
 
-#include "platform/x11/desktop_scale.h"
+#include "platform/x11/desktop_settings.h"
+
+#include <xcb/randr.h>
 
 #include <bit>
 
@@ -87,16 +89,39 @@ X11Connection::~X11Connection()
 
 double X11Connection::desktop_scale() const
 {
-    constexpr std::uint32_t kMostWords = 1 << 16;
     // The desktop's settings are with the first screen, whichever screen the window is on.
     const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(connection_)).data->root;
-    const XcbPointer<xcb_get_property_reply_t> property(xcb_get_property_reply(
-        connection_,
-        xcb_get_property(connection_, 0, root, XCB_ATOM_RESOURCE_MANAGER, XCB_ATOM_STRING, 0, kMostWords),
-        nullptr));
-    if (!property || property->format != 8) return 1.0;
-    return desktop_scale_of({static_cast<const char*>(xcb_get_property_value(property.get())),
-                             static_cast<std::size_t>(xcb_get_property_value_length(property.get()))});
+    return desktop_scale_of(property(root, XCB_ATOM_RESOURCE_MANAGER, XCB_ATOM_STRING));
+}
+
+PixelRect X11Connection::monitor_at(int x, int y) const
+{
+    const PixelRect whole{0, 0, screen_->width_in_pixels, screen_->height_in_pixels};
+    // A request of an extension that is not there would break the connection.
+    const xcb_query_extension_reply_t* extension = xcb_get_extension_data(connection_, &xcb_randr_id);
+    if (!extension || !extension->present) return whole;
+    constexpr std::uint8_t kActive = 1;
+    const XcbPointer<xcb_randr_get_monitors_reply_t> reply(xcb_randr_get_monitors_reply(
+        connection_, xcb_randr_get_monitors(connection_, screen_->root, kActive), nullptr));
+    if (!reply) return whole;
+    for (auto i = xcb_randr_get_monitors_monitors_iterator(reply.get()); i.rem;
+         xcb_randr_monitor_info_next(&i)) {
+        const PixelRect monitor{i.data->x, i.data->y, i.data->width, i.data->height};
+        if (x >= monitor.x && x < monitor.right() && y >= monitor.y && y < monitor.bottom()) return monitor;
+    }
+    return whole;
+}
+
+std::optional<std::chrono::milliseconds> X11Connection::double_click_time() const
+{
+    const auto asked = xcb_get_selection_owner(connection_, atom("_XSETTINGS_S0"));
+    const XcbPointer<xcb_get_selection_owner_reply_t> manager(
+        xcb_get_selection_owner_reply(connection_, asked, nullptr));
+    if (!manager || manager->owner == XCB_WINDOW_NONE) return std::nullopt;
+    constexpr std::uint32_t kChanges = XCB_EVENT_MASK_PROPERTY_CHANGE;
+    xcb_change_window_attributes(connection_, manager->owner, XCB_CW_EVENT_MASK, &kChanges);
+    const xcb_atom_t settings = atom("_XSETTINGS_SETTINGS");
+    return double_click_time_of(property(manager->owner, settings, settings));
 }
 
 xcb_atom_t X11Connection::atom(std::string_view name) const
@@ -105,6 +130,16 @@ xcb_atom_t X11Connection::atom(std::string_view name) const
         connection_, xcb_intern_atom(connection_, 0, static_cast<std::uint16_t>(name.size()), name.data()),
         nullptr));
     return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
+}
+
+std::string X11Connection::property(xcb_window_t window, xcb_atom_t name, xcb_atom_t type) const
+{
+    constexpr std::uint32_t kMostWords = 1 << 16;
+    const XcbPointer<xcb_get_property_reply_t> reply(xcb_get_property_reply(
+        connection_, xcb_get_property(connection_, 0, window, name, type, 0, kMostWords), nullptr));
+    if (!reply || reply->format != 8) return {};
+    return {static_cast<const char*>(xcb_get_property_value(reply.get())),
+            static_cast<std::size_t>(xcb_get_property_value_length(reply.get()))};
 }
 
 } // namespace r7

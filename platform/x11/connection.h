@@ -1,13 +1,16 @@
 // The connection to a display: the screen, the format of its pixels, and replies that free themselves.
 #pragma once
 
+#include "platform/cairo/pixels.h"
 #include "platform/x11/window_options.h"
 
 #include <xcb/xcb.h>
 
+#include <chrono>
 #include <cstddef>
 #include <cstdlib>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -44,8 +47,16 @@ public:
     const X11Visual& visual() const { return visual_; }
     /// Pixels for a point, as the desktop has them.
     double desktop_scale() const;
+    /// The part of the screen that is seen on the monitor at this place, pixels from its top left corner; the
+    /// whole screen where the display tells nothing of monitors, or shows none there.
+    PixelRect monitor_at(int x, int y) const;
+    /// The longest time between the presses of a double click, if the desktop says one. From then on a change
+    /// of it comes as a PropertyNotify event, the only ones that this connection selects.
+    std::optional<std::chrono::milliseconds> double_click_time() const;
     /// The display's number for a name; XCB_ATOM_NONE once the connection is broken.
     xcb_atom_t atom(std::string_view name) const;
+    /// The bytes of a property; none where the window has none of that type, or its items are not bytes.
+    std::string property(xcb_window_t window, xcb_atom_t name, xcb_atom_t type) const;
 
 private:
     explicit X11Connection(xcb_connection_t* connection) : connection_(connection) {}

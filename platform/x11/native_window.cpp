@@ -1,19 +1,21 @@
 // The window as the display knows it.
 #include "platform/x11/native_window.h"
 
+#include "platform/cairo/image_pixels.h"
+
 #include <unistd.h>
 
 #include <array>
 #include <climits>
+#include <cstring>
 #include <span>
+#include <vector>
 
 namespace r7 {
 
 namespace {
 
-constexpr std::uint32_t kEvents = XCB_EVENT_MASK_EXPOSURE | XCB_EVENT_MASK_STRUCTURE_NOTIFY |
-                                  XCB_EVENT_MASK_BUTTON_PRESS | XCB_EVENT_MASK_BUTTON_RELEASE |
-                                  XCB_EVENT_MASK_BUTTON_1_MOTION | XCB_EVENT_MASK_BUTTON_3_MOTION;
+constexpr std::uint32_t kEvents = XCB_EVENT_MASK_EXPOSURE | XCB_EVENT_MASK_STRUCTURE_NOTIFY | kPointerEvents;
 
 /// Sets properties of one window.
 class Properties final {
@@ -38,6 +40,37 @@ private:
     const X11Connection& connection_;
     xcb_window_t window_;
 };
+
+// A colour that was multiplied by its alpha, the pixel's uppermost byte, as it was before.
+std::uint32_t straight_of(std::uint32_t pixel)
+{
+    const std::uint32_t alpha = pixel >> 24;
+    if (alpha == 0) return 0;
+    const auto straight = [=](int shift) {
+        return ((pixel >> shift & 0xff) * 255 + alpha / 2) / alpha << shift;
+    };
+    return alpha << 24 | straight(16) | straight(8) | straight(0);
+}
+
+// Width, height and straight colours of each picture; without those that would make it longer than
+// `most_words`.
+std::vector<std::uint32_t> icon_words(const std::vector<ImageRef>& icons, std::size_t most_words)
+{
+    std::vector<std::uint32_t> words;
+    for (const ImageRef& icon : icons) {
+        if (!icon) continue;
+        const ImagePixels image = image_pixels(*icon, 1.0);
+        const std::size_t count = image.bytes.size() / 4;
+        const std::size_t start = words.size() + 2;
+        if (start + count > most_words) continue;
+        words.push_back(static_cast<std::uint32_t>(image.width));
+        words.push_back(static_cast<std::uint32_t>(image.height));
+        words.resize(start + count);
+        std::memcpy(&words[start], image.bytes.data(), image.bytes.size());
+        for (std::uint32_t& pixel : std::span(words).subspan(start)) pixel = straight_of(pixel);
+    }
+    return words;
+}
 
 std::string host_name()
 {
@@ -69,6 +102,11 @@ void describe_to_window_manager(const X11Connection& connection, const Propertie
     properties.set(XCB_ATOM_WM_CLIENT_MACHINE, XCB_ATOM_STRING, host_name());
     const std::array process{static_cast<std::uint32_t>(getpid())};
     properties.set(connection.atom("_NET_WM_PID"), XCB_ATOM_CARDINAL, process);
+
+    constexpr std::size_t kFields = sizeof(xcb_change_property_request_t) / 4 + 1;
+    const std::size_t most_words = xcb_get_maximum_request_length(connection.get()) - kFields;
+    const auto icons = icon_words(options.icons, most_words);
+    if (!icons.empty()) properties.set(connection.atom("_NET_WM_ICON"), XCB_ATOM_CARDINAL, icons);
 }
 
 } // namespace

@@ -28,14 +28,14 @@ MouseButton other_than(MouseButton button)
 
 Modifiers modifiers_of(const X11Pointer& pointer)
 {
-    // Mod5 is the third-level key: window managers often keep the plain Alt for themselves.
+    // Alt, Super and the third-level key (AltGr) all stand for Option: window managers keep one or another
+    // with a drag for themselves.
     constexpr struct {
         int mask;
         Modifiers modifier;
     } kKeys[] = {{XCB_MOD_MASK_SHIFT, Modifiers::shift},
                  {XCB_MOD_MASK_CONTROL, Modifiers::control},
-                 {XCB_MOD_MASK_1 | XCB_MOD_MASK_5, Modifiers::option},
-                 {XCB_MOD_MASK_4, Modifiers::command}};
+                 {XCB_MOD_MASK_1 | XCB_MOD_MASK_4 | XCB_MOD_MASK_5, Modifiers::option}};
     Modifiers held = Modifiers::none;
     for (const auto& key : kKeys)
         if (pointer.state & key.mask) held = held | key.modifier;
@@ -43,12 +43,6 @@ Modifiers modifiers_of(const X11Pointer& pointer)
 }
 
 } // namespace
-
-X11PointerTracker::X11PointerTracker(int window_height, double scale,
-                                     std::chrono::milliseconds click_interval)
-    : window_height_(window_height), scale_(scale), click_interval_(click_interval)
-{
-}
 
 std::optional<X11PointerTracker::Button> X11PointerTracker::press(std::uint8_t number,
                                                                   const X11Pointer& pointer)
@@ -86,6 +80,7 @@ std::optional<X11PointerTracker::Button> X11PointerTracker::move(const X11Pointe
         if (!holds(pointer, other_than(dragged_))) return std::nullopt;
         dragged_ = other_than(dragged_);
     }
+    if (pointer.root_x == last_.root_x && pointer.root_y == last_.root_y) return std::nullopt;
     if (distance_from_press(pointer) > kClickDistance) strayed_ = true;
     return Button{dragged_, event_of(dragged_, pointer)};
 }

@@ -25,11 +25,15 @@ struct X11Pointer {
 /// A pixel is told by its lower left corner, so that the pixels of a view, and no others, lie in its frame.
 class X11PointerTracker final {
 public:
-    /// A press counts on from the one before where it is of the same button, no later than `click_interval`
-    /// after it and no farther than this from it, and the pointer was not dragged farther in between.
+    /// A press counts on from the one before where it is of the same button, no later than the click
+    /// interval after it and no farther than this from it, and the pointer was not dragged farther in
+    /// between.
     static constexpr double kClickDistance = 4.0; // points
+    /// Where nobody says another.
+    static constexpr std::chrono::milliseconds kClickInterval{400};
 
-    X11PointerTracker(int window_height, double scale, std::chrono::milliseconds click_interval);
+    X11PointerTracker(int window_height, double scale) : window_height_(window_height), scale_(scale) {}
+    void set_click_interval(std::chrono::milliseconds interval) { click_interval_ = interval; }
 
     struct Button {
         MouseButton button = MouseButton::primary;
@@ -39,7 +43,8 @@ public:
     /// A press or a release of a button by its number (`detail`); nothing for those that are not delivered.
     std::optional<Button> press(std::uint8_t number, const X11Pointer& pointer);
     std::optional<Button> release(std::uint8_t number, const X11Pointer& pointer);
-    /// A motion: of the button that was pressed first, of those held; nothing where none is.
+    /// A motion: of the button that was pressed first, of those held; nothing where none is, or where the
+    /// pointer stands still.
     std::optional<Button> move(const X11Pointer& pointer);
     /// A press of the buttons that stand for a wheel: a notch. Nothing for other buttons.
     std::optional<ScrollEvent> scroll(std::uint8_t number, const X11Pointer& pointer) const;
@@ -51,7 +56,7 @@ private:
 
     int window_height_;
     double scale_;
-    std::chrono::milliseconds click_interval_;
+    std::chrono::milliseconds click_interval_ = kClickInterval;
 
     X11Pointer last_;  // the event before
     X11Pointer press_; // the last press

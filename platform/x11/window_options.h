@@ -2,11 +2,14 @@
 #pragma once
 
 #include "platform/geometry.h"
+#include "platform/image.h"
 
 #include <chrono>
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
+#include <vector>
 
 namespace r7 {
 
@@ -15,11 +18,15 @@ struct X11WindowOptions {
     double scale = 0.0;       ///< pixels for a point, above 0; 0: the desktop's
     std::string title{};      ///< UTF-8; of a top-level window
     std::string class_name{}; ///< both parts of WM_CLASS; without zero bytes
+    /// The window's picture in lists and bars, in several sizes; those that are null, or too large for a
+    /// request of the display, are left out.
+    std::vector<ImageRef> icons{};
     std::string display{};    ///< name of the display; empty: the one that the environment names
     std::uint32_t parent = 0; ///< the window to be embedded in, by its number; 0: a top-level window
 
-    /// The longest time between the presses of a multiple click, by the display's clock.
-    std::chrono::milliseconds click_interval{400};
+    /// The longest time between the presses of a multiple click, by the display's clock; none: the desktop's,
+    /// or 400 ms where it has none.
+    std::optional<std::chrono::milliseconds> click_interval{};
 
     /// The user asks to close the window, which stays as it is. May destroy the window.
     std::function<void()> close_requested{};

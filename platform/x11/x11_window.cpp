@@ -3,9 +3,11 @@
 
 #include "platform/x11/connection.h"
 #include "platform/x11/cursor_cache.h"
+#include "platform/x11/endless_screen.h"
 #include "platform/x11/native_window.h"
 #include "platform/x11/pixel_sender.h"
 
+#include <algorithm>
 #include <cassert>
 #include <utility>
 
@@ -41,11 +43,23 @@ struct X11Window::Native {
                     : Event{XcbPointer<xcb_generic_event_t>(xcb_poll_for_queued_event(c))};
     }
 
+    // To the place, or the one of the screen that is nearest.
+    void move_pointer(X11EndlessScreen::Place place) const
+    {
+        const auto coordinate = [](int number) {
+            return static_cast<std::int16_t>(std::clamp(number, 0, 32767));
+        };
+        xcb_warp_pointer(c, XCB_WINDOW_NONE, connection->screen().root, 0, 0, 0, 0, coordinate(place.x),
+                         coordinate(place.y));
+        xcb_flush(c); // the hand goes on meanwhile
+    }
+
     std::unique_ptr<X11Connection> connection;
     xcb_connection_t* c;
     X11PixelSender pixels;
     X11CursorCache cursors;
     xcb_cursor_t cursor = XCB_CURSOR_NONE; // shown
+    X11EndlessScreen endless_screen;
     xcb_atom_t protocols;
     xcb_atom_t delete_window;
     Event next; // looked at, not yet taken
@@ -58,6 +72,13 @@ template <typename T>
 X11Pointer pointer_of(const T& event)
 {
     return {event.event_x, event.event_y, event.root_x, event.root_y, event.time, event.state};
+}
+
+// Whether a button that drags is held besides the one that is pressed or released.
+bool holds_another(const xcb_button_press_event_t& e)
+{
+    return (e.state & XCB_BUTTON_MASK_1 && e.detail != XCB_BUTTON_INDEX_1) ||
+           (e.state & XCB_BUTTON_MASK_3 && e.detail != XCB_BUTTON_INDEX_3);
 }
 
 Rect as_rect(const PixelRect& pixels)
@@ -95,7 +116,7 @@ X11Window::Opened X11Window::open(X11WindowOptions options)
 X11Window::X11Window(X11WindowOptions options, double scale)
     : options_(std::move(options)),
       back_buffer_(options_.size, scale),
-      pointer_(back_buffer_.height(), scale, options_.click_interval),
+      pointer_(back_buffer_.height(), scale),
       window_(std::make_shared<Window>(Rect{0.0, 0.0, options_.size.width, options_.size.height}))
 {
     window_->set_backend(this);
@@ -112,6 +133,7 @@ bool X11Window::create(std::unique_ptr<X11Connection> connection)
                                       static_cast<std::uint16_t>(back_buffer_.height()));
     if (native_id_ == XCB_WINDOW_NONE) return false;
     native_ = std::make_unique<Native>(std::move(connection), native_id_, scale());
+    update_click_interval();
     // Flushed by the first turn.
     xcb_map_window(native_->c, native_id_);
     return true;
@@ -123,6 +145,12 @@ std::uint64_t X11Window::bytes_sent() const
 }
 
 void X11Window::show_cursor(const CursorRef& cursor)
+{
+    cursor_ = cursor;
+    if (!hides_pointer_) use_cursor(cursor);
+}
+
+void X11Window::use_cursor(const CursorRef& cursor)
 {
     if (!native_) return;
     const xcb_cursor_t found = native_->cursors.find(cursor);
@@ -174,6 +202,10 @@ void X11Window::handle(const Event& event)
     }
     case XCB_UNMAP_NOTIFY:
         exposed_ = false;
+        end_drag(); // whose release the display keeps to itself
+        break;
+    case XCB_PROPERTY_NOTIFY: // of the desktop's settings
+        update_click_interval();
         break;
     case XCB_CONFIGURE_NOTIFY:
     case XCB_REPARENT_NOTIFY:
@@ -190,35 +222,77 @@ void X11Window::handle(const Event& event)
     }
     case XCB_BUTTON_PRESS: {
         const auto& e = event.as<xcb_button_press_event_t>();
-        if (const auto press = pointer_.press(e.detail, pointer_of(e)))
+        if ((e.detail == XCB_BUTTON_INDEX_1 || e.detail == XCB_BUTTON_INDEX_3) && !holds_another(e))
+            native_->endless_screen.begin(native_->connection->monitor_at(e.root_x, e.root_y));
+        const X11Pointer pointer = native_->endless_screen.follow(pointer_of(e));
+        // Nothing else tells where a window is whose surroundings were moved.
+        place(e.root_x - e.event_x, e.root_y - e.event_y);
+        if (const auto press = pointer_.press(e.detail, pointer))
             window_->press(press->button, press->event);
-        else if (const auto notch = pointer_.scroll(e.detail, pointer_of(e)))
+        else if (const auto notch = pointer_.scroll(e.detail, pointer))
             window_->scroll(*notch);
         break;
     }
     case XCB_BUTTON_RELEASE: {
         const auto& e = event.as<xcb_button_release_event_t>();
-        if (const auto release = pointer_.release(e.detail, pointer_of(e)))
-            window_->release(release->button, release->event);
+        const auto release = pointer_.release(e.detail, native_->endless_screen.follow(pointer_of(e)));
+        if (!holds_another(e)) end_drag();
+        if (release) window_->release(release->button, release->event);
         break;
     }
-    case XCB_MOTION_NOTIFY:
-        if (const auto drag = pointer_.move(pointer_of(event.as<xcb_motion_notify_event_t>())))
-            window_->drag(drag->button, drag->event);
+    case XCB_MOTION_NOTIFY: {
+        const auto& e = event.as<xcb_motion_notify_event_t>();
+        const auto drag = pointer_.move(native_->endless_screen.follow(pointer_of(e)));
+        if (!drag) break;
+        keep_off_edges();
+        // One by one, however many wait: a control rounds and clamps each step, and merged ones would end
+        // elsewhere.
+        window_->drag(drag->button, drag->event);
         break;
+    }
     default: // an error, which only tells that something is gone already, or of no interest
         break;
     }
 }
 
+void X11Window::keep_off_edges()
+{
+    const auto place = native_->endless_screen.bring_back();
+    if (!place) return;
+    if (!std::exchange(hides_pointer_, true)) {
+        use_cursor(std::make_shared<Cursor>(Cursor{Image::painted({1.0, 1.0}, [](Graphics&) {}), {}}));
+        // Over the windows of others, too.
+        xcb_change_active_pointer_grab(native_->c, native_->cursor, XCB_CURRENT_TIME, kPointerEvents);
+    }
+    native_->move_pointer(*place);
+}
+
+void X11Window::end_drag()
+{
+    if (std::exchange(hides_pointer_, false)) use_cursor(cursor_);
+    if (const auto place = native_->endless_screen.end()) native_->move_pointer(*place);
+}
+
+void X11Window::update_click_interval()
+{
+    const auto time =
+        options_.click_interval ? options_.click_interval : native_->connection->double_click_time();
+    pointer_.set_click_interval(time.value_or(X11PointerTracker::kClickInterval));
+}
+
 void X11Window::update_frame()
 {
-    const xcb_screen_t& screen = native_->connection->screen();
     const XcbPointer<xcb_translate_coordinates_reply_t> corner(xcb_translate_coordinates_reply(
-        native_->c, xcb_translate_coordinates(native_->c, native_id_, screen.root, 0, 0), nullptr));
-    if (!corner) return;
-    window_->set_frame_origin({corner->dst_x / scale(),
-                               (screen.height_in_pixels - corner->dst_y - back_buffer_.height()) / scale()});
+        native_->c,
+        xcb_translate_coordinates(native_->c, native_id_, native_->connection->screen().root, 0, 0),
+        nullptr));
+    if (corner) place(corner->dst_x, corner->dst_y);
+}
+
+void X11Window::place(int left, int top)
+{
+    const int bottom = native_->connection->screen().height_in_pixels - top - back_buffer_.height();
+    window_->set_frame_origin({left / scale(), bottom / scale()});
 }
 
 void X11Window::paint()

@@ -60,7 +60,15 @@ private:
     bool create(std::unique_ptr<X11Connection> connection);
 
     void handle(const Event& event);
+    // Before a drag reaches the screen's edge, takes the pointer away from there, unseen.
+    void keep_off_edges();
+    // Leaves the pointer, seen again, where the hand has taken it.
+    void end_drag();
+    void use_cursor(const CursorRef& cursor);
+    void update_click_interval();
     void update_frame();
+    // The window's upper left corner, in pixels from the screen's.
+    void place(int left, int top);
     void paint();
     void lose();
 
@@ -73,7 +81,9 @@ private:
     bool wants_turn_ = true;
     bool moved_ = true;
     bool exposed_ = false; // since it was mapped
-    DirtyRegion to_send_;  // pixels, from the picture's top left corner
+    CursorRef cursor_;     // shown, but for a pointer that is hidden
+    bool hides_pointer_ = false;
+    DirtyRegion to_send_; // pixels, from the picture's top left corner
 };
 
 } // namespace r7

@@ -14,7 +14,7 @@ within() {
     local end=$((SECONDS + $1))
     until "${@:2}"; do
         ((SECONDS < end)) || return 1
-        sleep 0.05
+        sleep 0.01
     done
 }
 
@@ -23,9 +23,10 @@ die() {
     exit 1
 }
 
+# open_display [DEPTH]
 open_display() {
     rm -f "$work/display"
-    Xvfb -displayfd 3 -screen 0 2400x1800x24 -noreset -nolisten tcp 3>"$work/display" 2>/dev/null &
+    Xvfb -displayfd 3 -screen 0 "2400x1800x${1-24}" -noreset -nolisten tcp 3>"$work/display" 2>/dev/null &
     server=$!
     within 30 test -s "$work/display" || die "Xvfb does not start"
     DISPLAY=:$(<"$work/display")
@@ -39,8 +40,6 @@ is_managed() { xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'windo
 
 is_shown() { window=$(xdotool search --class '^r7$' 2>/dev/null | tail -n 1) && xwininfo -id "$window" | grep -q IsViewable; }
 
-height_is() { xwininfo -id "$window" | grep -q "Height: $1$" || die "the window is not $1 pixels high"; }
-
 # A window manager may move it after it appeared.
 stays() {
     local before
@@ -49,73 +48,79 @@ stays() {
     [[ $(xwininfo -id "$window" | grep Absolute) == "$before" ]]
 }
 
-open_panel() { # OPTION
+# start_panel OPTION
+start_panel() {
     timeout -k 5 60 "$program" --scale 1 "$1" >"$work/trace" 2>"$work/complaint" &
     panel=$!
+}
+
+# open_panel OPTION
+open_panel() {
+    start_panel "$1"
     within 30 is_shown || die "the window does not appear: $(<"$work/complaint")"
     within 30 stays || die "the window does not stay where it is"
 }
 
-# expect_end STATUS HOW
+# is_described SIZE: to the window manager.
+is_described() {
+    diff -u - <(xprop -id "$window" WM_CLASS _NET_WM_NAME WM_NORMAL_HINTS) <<END || die "the window manager is told otherwise"
+WM_CLASS(STRING) = "r7", "r7"
+_NET_WM_NAME(UTF8_STRING) = "R7"
+WM_NORMAL_HINTS(WM_SIZE_HINTS):
+		program specified minimum size: $1
+		program specified maximum size: $1
+END
+}
+
+# expect_end STATUS HOW [COMPLAINT]
 expect_end() {
     local status=0
     wait "$panel" || status=$?
     panel=
-    [[ $status == "$1" ]] || die "$2: status $status, not $1: $(<"$work/complaint")"
+    [[ $status == "$1" && $(<"$work/complaint") == "${3-}" ]] || die "$2: status $status, not $1: $(<"$work/complaint")"
 }
 
-# The gestures: each on the display, and as a line of the session. X and Y are pixels from the window's top left.
-session=$work/gestures.session
-: >"$session"
-declare -A left top_of width
-
+# Where each view that the session names begins in the window, from the left and from the top, and its size.
+declare -A left bottom width height
 find_frames() {
-    echo "frame panel $*" >"$work/frames.session"
-    local name x y w h panel_height
+    local name x y w h names
+    names=$(awk '/^(press|click|scroll)/ { print $2 }' "$session" | sort -u)
+    echo "frame panel ${names//$'\n'/ }" >"$work/frames.session"
     while read -r _ name x y w h; do
-        if [[ $name == panel ]]; then panel_height=$h; fi
-        left[$name]=$x width[$name]=$w top_of[$name]=$((panel_height - y - h / 2))
+        width[$name]=$w height[$name]=$h left[$name]=$x bottom[$name]=$((height[panel] - y))
+        # An editor opens over the panel's upper left corner.
+        if [[ $name == zoomed_* || $name == *_control ]]; then bottom[$name]=$h; fi
     done < <("$program" play "$work/frames.session")
 }
 
-# press NAME OFFSET [right]: OFFSET points from the view's left edge, halfway up.
-press() {
-    local button=1
-    if [[ ${3-} == right ]]; then button=3; fi
-    xdotool mousemove --window "$window" $((left[$1] + $2)) "${top_of[$1]}" mousedown $button
-    held=$button
-    echo "press $1 at $2 10 ${3-}" >>"$session"
+# point_at NAME [X Y]: a point of the view, or its centre.
+point_at() {
+    local x=${2:-$((width[$1] / 2))} y=${3:-$((height[$1] / 2))}
+    xdotool mousemove --window "$window" $((left[$1] + x)) $((bottom[$1] - 1 - y))
 }
 
-# press_in EDITOR HEIGHT X Y: a point of an open editor of that height, which lies over the panel's upper left corner.
-press_in() {
-    xdotool mousemove --window "$window" "$3" $(($2 - $4)) mousedown 1
-    held=1
-    echo "press $1 at $3 $4" >>"$session"
-}
-
-drag() {
-    if [[ ${3-} == control ]]; then xdotool keydown ctrl; fi
-    xdotool mousemove_relative -- "$1" "$2"
-    if [[ ${3-} == control ]]; then xdotool keyup ctrl; fi
-    echo "drag $*" >>"$session"
-}
-
-release() {
-    xdotool mouseup "$held"
-    echo release >>"$session"
-}
-
-scroll() {
-    local button=4
-    if (($2 < 0)); then button=5; fi
-    xdotool mousemove --window "$window" $((left[$1] + width[$1] / 2)) "${top_of[$1]}" click $button
-    echo "scroll $1 $2" >>"$session"
-}
-
-double_click() {
-    xdotool mousemove --window "$window" $((left[$1] + width[$1] / 2)) "${top_of[$1]}" click --repeat 2 --delay 40 1
-    printf 'click %s\nclick %s clicks 2\n' "$1" "$1" >>"$session"
+# Performs a session on the display.
+perform() {
+    local word name at x y more held lines
+    while read -r word name at x y more; do
+        case $word in
+        press)
+            point_at "$name" "$x" "$y"
+            if [[ $more == right ]]; then held=3; else held=1; fi
+            xdotool mousedown $held
+            ;;
+        drag)
+            lines=$(wc -l <"$work/trace")
+            if [[ $x == control ]]; then xdotool keydown ctrl; fi
+            xdotool mousemove_relative -- "$name" "$at"
+            if [[ $x == control ]]; then xdotool keyup ctrl; fi
+            within 10 traced $((lines + 1)) || die "a drag does nothing: $name $at"
+            ;;
+        release) xdotool mouseup "$held" ;;
+        scroll) point_at "$name" && xdotool click $((at > 0 ? 4 : 5)) ;;
+        click) [[ $at == clicks ]] || { point_at "$name" && xdotool click --repeat 2 --delay 40 1; } ;;
+        esac
+    done <"$session"
 }
 
 # Where on the screen an editor opens depends on where the window is.
@@ -123,49 +128,64 @@ without_places() { sed 's/^\(overlay open [a-z_]*\) .*/\1/' "$1"; }
 
 traced() { [[ $(wc -l <"$work/trace") -ge $1 ]]; }
 
-open_display
-open_panel --trace
-height_is 624
-find_frames delay_depth_knob output_level envelope_mode wave_shaper_one_a wave_shaper_one_display \
-    pre_tone_control_display
-press delay_depth_knob 40
+session=$work/gestures.session
+cat >"$session" <<END
+press delay_depth_knob at 40 10
 drag 10 -15
 drag 3 0 control
 drag 1200 0 # out of the window, at the right
 drag -1250 40
 drag 5 0
 release
-press output_level 30 right
+press output_level at 30 10 right
 drag -100 0
 drag 0 700 # out of it below
 release
 scroll wave_shaper_one_a 1
 scroll wave_shaper_one_a -1
-double_click output_level
-press envelope_mode 10
+click output_level
+click output_level clicks 2
+press envelope_mode at 10 10
 release
-press envelope_mode 46
-drag 20 0
+press envelope_mode at 46 10
 release
-
-# A curve's end point, dragged in the editor over the panel while a knob below it is turned, then a tone control's band.
-double_click wave_shaper_one_display
-press_in zoomed_wave_shaper_display 400 367 297
+press delay_cutoff_frequency_knob at 30 10
+$(printf 'drag -20 0 control\n%.0s' {1..70}) # past the edge of the screen
+drag 15 -9
+release
+# A curve's end point, dragged in the editor over the panel while a knob below it is turned.
+click wave_shaper_one_display
+click wave_shaper_one_display clicks 2
+press zoomed_wave_shaper_display at 367 297
 drag -40 0
 drag 0 12 control
 release
-press wave_shaper_one_a 40
+press wave_shaper_one_a at 40 10
 drag 20 0
 release
-press_in zoomed_wave_shaper_display 400 535 25
+press zoomed_wave_shaper_display at 535 25
 release
-double_click pre_tone_control_display
-press_in pre_tone_control 360 377 195
+# A tone control's band, out of the editor and of the window.
+click pre_tone_control_display
+click pre_tone_control_display clicks 2
+press pre_tone_control at 377 195
 drag 0 -10
-drag 900 0 # out of the editor and of the window
+drag 900 0
 release
-press_in pre_tone_control 360 620 40
+press pre_tone_control at 620 40
 release
+END
+
+open_display 8
+start_panel --trace
+expect_end 3 "pixels of 8 bits" "r7: the display has no pixels of 32 bits in this machine's order"
+kill "$server"
+
+open_display
+open_panel --trace
+find_frames
+is_described "${width[panel]} by $((height[panel] + 24))" # with the line of status below
+perform
 "$program" play "$session" >"$work/expected"
 within 10 traced "$(wc -l <"$work/expected")" || true
 diff -u <(without_places "$work/expected") <(without_places "$work/trace") || die "the trace differs from the session's"
@@ -179,8 +199,7 @@ else
 fi
 
 open_panel --no-status
-height_is 600
-press delay_depth_knob 40
+is_described "${width[panel]} by ${height[panel]}"
+point_at delay_depth_knob && xdotool mousedown 1 mousemove_relative 5 5
 kill "$server"
-expect_end 3 "the display is gone in mid-drag"
-[[ $(<"$work/complaint") == "r7: the display was lost" ]] || die "the loss is told as \"$(<"$work/complaint")\""
+expect_end 3 "the display is gone in mid-drag" "r7: the display was lost"

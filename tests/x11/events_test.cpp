@@ -1,4 +1,5 @@
-// Real events of a real server: presses, drags, clicks, keys held, wheel.
+// Real events of a real server: presses, drags and clicks.
+#include "platform/x11/endless_screen.h"
 #include "tests/x11/rig.h"
 
 #include <poll.h>
@@ -22,54 +23,74 @@ struct X11Events : X11Test {
     }
 };
 
-TEST_F(X11Events, FirstPressedOfTwoButtonsDragsEvenOutsideTheWindow)
+TEST_F(X11Events, DragGoesOnPastTheScreensEdgesUnseenAndExact)
 {
-    display.press(3);
-    display.press(1);
-    display.move_to(315, 210);
-    display.release(3);
-    display.move_to(290, 390);
-    display.release(1);
-    EXPECT_EQ(heard_until("\nup"), "right down 11,129 by 0,0 x1\n"
-                                   "down 11,129 by 0,0 x1\n"
-                                   "right drag 15,139 by 4,-10 x1\n"
-                                   "right up 15,139 by 0,0 x1\n"
-                                   "drag -10,-41 by -25,180 x1\n"
-                                   "up -10,-41 by 0,0 x1\n");
-}
-
-TEST_F(X11Events, ModifiersAndTheWheelsDirectionsAreNamed)
-{
-    const std::pair<int, std::string_view> kCases[] = {
-        {XCB_MAP_INDEX_SHIFT, " 0x20000\n"}, {XCB_MAP_INDEX_CONTROL, " 0x40000\n"},
-        {XCB_MAP_INDEX_1, " 0x80000\n"},     {XCB_MAP_INDEX_5, " 0x80000\n"},
-        {XCB_MAP_INDEX_4, " 0x100000\n"},
+    const Display::Cursor arrow = display.cursor();
+    const auto drag = [&](int dx, int dy, int moves) {
+        for (int i = 0; i < moves; ++i) {
+            display.move_by(dx, dy);
+            if (i % 2 == 0) continue; // so that motions are under way while the pointer is brought back
+            ASSERT_TRUE(turn_until([&] {
+                constexpr int kEdge = X11EndlessScreen::kNearEdge;
+                loop.turn(Time{0});
+                const auto [x, y] = display.pointer();
+                return x >= kEdge && x < kScreenWidth - kEdge && y >= kEdge && y < kScreenHeight - kEdge;
+            }));
+        }
     };
-    for (const auto& [modifier, flags] : kCases) {
-        display.hold(modifier, true);
-        display.click(4);
-        display.hold(modifier, false);
-        EXPECT_EQ(heard_until("wheel"), "wheel 11,129 by 0,1" + std::string(flags)) << modifier;
+    std::ostringstream expected;
+    expected << "down 11,129 by 0,0 x1\n";
+    display.press(1);
+    int x = 11, y = 129;
+    for (const auto& [dx, dy, moves] : {std::array{-10, 0, 400}, {7, 10, 400}, {-5, 9, 100}}) {
+        drag(dx, dy, moves);
+        for (int i = 0; i < moves; ++i)
+            expected << "drag " << (x += dx) << ',' << (y -= dy) << " by " << dx << ',' << dy << " x1\n";
     }
-    for (const int button : {5, 6, 7}) display.click(button);
-    EXPECT_EQ(heard_until("by 1,0"), "wheel 11,129 by 0,-1\n"
-                                     "wheel 11,129 by -1,0\n"
-                                     "wheel 11,129 by 1,0\n");
+    const Display::Cursor hidden = display.cursor();
+    EXPECT_EQ(hidden.pixels, Pixels(hidden.pixels.size())) << "over the screen, too";
+    display.release(1);
+    expected << "up " << x << ',' << y << " by 0,0 x1\n";
+    EXPECT_TRUE(heard_until("\nup") == expected.str());
+    const auto is_at = [this](int px, int py) {
+        return turn_until([&] { return display.pointer() == std::pair(px, py); });
+    };
+    EXPECT_TRUE(is_at(0, kScreenHeight - 1)) << "where the hand is, on the screen";
+    EXPECT_EQ(display.cursor(), arrow);
+
+    // The next one's release never comes, for its window is hidden.
+    display.move_to(311, 220);
+    display.press(1);
+    drag(-10, 0, 60);
+    display.show(shown.x11->native_id(), false);
+    EXPECT_TRUE(is_at(0, 220));
+    display.release(1);
+    display.show(shown.x11->native_id(), true);
+    display.move_to(311, 220);
+    EXPECT_EQ(display.cursor(), arrow);
 }
 
-TEST_F(X11Events, PixelsAreHalfPointsAtTwiceTheScale)
+TEST_F(X11Events, ClicksCountOnWithinTheDesktopsTimeAsItIsNow)
 {
-    Shown fine(loop, {.scale = 2.0});
-    ASSERT_TRUE(settle(fine, 600, 400));
-    display.move_to(600, 400);
-    display.press(1);
-    display.move_to(999, 699);
-    display.release(1);
-    ASSERT_TRUE(turn_until([&] { return fine.view->has_heard("up"); }));
-    EXPECT_EQ(fine.view->heard(), "down 0,149.5 by 0,0 x1\n"
-                                  "drag 199.5,0 by 199.5,149.5 x1\n"
-                                  "up 199.5,0 by 0,0 x1\n");
-    EXPECT_EQ(shown.view->heard(), "") << "the other window of this process";
+    using namespace std::string_literals;
+    const xcb_atom_t settings = display.atom("_XSETTINGS_SETTINGS");
+    const xcb_window_t manager = display.make_window({0, 0, 10, 10});
+    xcb_set_selection_owner(display.get(), manager, display.atom("_XSETTINGS_S0"), XCB_CURRENT_TIME);
+    ASSERT_EQ(display.owner("_XSETTINGS_S0"), manager);
+    Shown other(loop);
+    ASSERT_TRUE(settle(other, 600, 400));
+    display.move_to(611, 420);
+    for (const auto& [milliseconds, second] : {std::pair{"\x3c\0\0\0"s, "x1\ndown 31,129 by 0,0 x1\n"},
+                                               {"\x88\x13\0\0"s, "x1\ndown 51,129 by 0,0 x2\n"}}) {
+        display.set_property(manager, settings, settings, desktop_settings(milliseconds));
+        display.move_by(20, 0);
+        for (const std::uint32_t delay : {0U, 100U}) {
+            display.press(1, delay);
+            display.release(1);
+        }
+        EXPECT_TRUE(turn_until([&] { return other.view->has_heard(second); })) << other.view->heard();
+    }
+    display.destroy(manager);
 }
 
 TEST_F(X11Events, IdleWindowIsWokenByNobodyAndSendsNothing)

@@ -2,8 +2,6 @@
 #include "platform/cairo/image_pixels.h"
 #include "tests/x11/rig.h"
 
-#include <xcb/xfixes.h>
-
 namespace r7::testing_x11 {
 namespace {
 
@@ -36,10 +34,13 @@ TEST_F(X11Windows, WindowThatCannotBeOpenedSaysWhy)
 
 TEST_F(X11Windows, ScaleIsTheDesktopsUnlessGiven)
 {
-    display.set_resources("Xft.dpi:\t192\n");
+    const auto set_resources = [this](std::string_view text) {
+        display.set_property(display.root(), XCB_ATOM_RESOURCE_MANAGER, XCB_ATOM_STRING, text);
+    };
+    set_resources("Xft.dpi:\t192\n");
     EXPECT_EQ(Shown(loop).x11->scale(), 2.0);
     EXPECT_EQ(Shown(loop, {.scale = 1.0}).x11->scale(), 1.0);
-    display.set_resources("");
+    set_resources("");
     EXPECT_EQ(Shown(loop).x11->scale(), 1.0);
 }
 
@@ -50,9 +51,11 @@ TEST_F(X11Windows, EmbeddedWindowLeavesFocusAndPixelFormatToItsHostWhoseEndIsTol
     Shown shown(loop, {.parent = host});
     ASSERT_TRUE(settle(shown));
     display.move_to(311, 220);
+    display.place(host, 305, 210); // of which the window is told by nobody
     display.press(1);
     display.move_to(315, 220);
     EXPECT_TRUE(turn_until([&] { return shown.view->has_heard("drag"); }));
+    EXPECT_EQ(shown.x11->window().frame().origin(), (Point{305.0, kScreenHeight - 210.0 - 150.0}));
     EXPECT_EQ(display.focus(), focus);
 
     display.destroy(host);
@@ -124,56 +127,61 @@ TEST_F(X11Windows, PictureLargerThanARequestArrivesWhole)
     EXPECT_TRUE(settle(shown, 0, 0));
 }
 
-// The cursor that the screen shows, as the XFIXES extension reads it back.
-struct ShownCursor {
-    int width, height, hot_x, hot_y;
-    Pixels pixels;
-    bool operator==(const ShownCursor&) const = default;
-};
-
-ShownCursor cursor_on(const Display& display)
+// A square picture, empty but for a point at its lower left.
+ImageRef corner_of(double size)
 {
-    xcb_connection_t* c = display.get();
-    const XcbPointer<xcb_xfixes_query_version_reply_t> version(
-        xcb_xfixes_query_version_reply(c, xcb_xfixes_query_version(c, 4, 0), nullptr));
-    const XcbPointer<xcb_xfixes_get_cursor_image_reply_t> reply(
-        xcb_xfixes_get_cursor_image_reply(c, xcb_xfixes_get_cursor_image(c), nullptr));
-    const std::uint32_t* pixels = xcb_xfixes_get_cursor_image_cursor_image(reply.get());
-    return {reply->width, reply->height, reply->xhot, reply->yhot,
-            Pixels(pixels, pixels + reply->width * reply->height)};
+    return Image::painted({size, size}, [](Graphics& graphics) {
+        const ColorRef color = Color::device_rgba(1.0, 0.4, 0.0, 0.5);
+        graphics.fill_rect({0.0, 0.0, 1.0, 1.0}, color.get(), Compositing::source_over);
+    });
 }
 
 TEST_F(X11Windows, CursorIsThePicturePixelByPixel)
 {
-    const auto image = Image::painted({24.0, 16.0}, [](Graphics& graphics) {
-        const ColorRef red = Color::device_rgba(1.0, 0.0, 0.0, 0.5),
-                       blue = Color::device_rgba(0.0, 0.0, 1.0, 1.0);
-        graphics.fill_rect({2.0, 3.0, 10.0, 4.0}, red.get(), Compositing::source_over);
-        graphics.fill_rect({12.0, 3.0, 1.0, 1.0}, blue.get(), Compositing::source_over);
-    });
-    const CursorRef cursor = std::make_shared<Cursor>(Cursor{image, {5.0, 4.0}});
+    const CursorRef cursor = std::make_shared<Cursor>(Cursor{corner_of(24.0), {5.0, 4.0}});
     for (const double scale : {1.0, 2.0}) {
         Shown shown(loop, {.scale = scale});
         ASSERT_TRUE(settle(shown));
         display.move_to(320, 220);
-        const ShownCursor arrow = cursor_on(display);
-
-        const ImagePixels expected = image_pixels(*image, scale);
+        const ImagePixels expected = image_pixels(*cursor->image, scale);
         Pixels pixels(expected.bytes.size() / 4);
         std::memcpy(pixels.data(), expected.bytes.data(), expected.bytes.size());
         const int unit = static_cast<int>(scale);
         shown.x11->show_cursor(cursor);
         EXPECT_TRUE(turn_until([&] {
-            return cursor_on(display) == ShownCursor{24 * unit, 16 * unit, 5 * unit, 12 * unit, pixels};
+            return display.cursor() == Display::Cursor{24 * unit, 24 * unit, 5 * unit, 20 * unit, pixels};
         })) << scale;
-
-        const std::uint64_t sent = shown.x11->bytes_sent();
-        shown.x11->show_cursor(cursor);
-        loop.turn(Time{0});
-        EXPECT_EQ(shown.x11->bytes_sent(), sent) << "shown already";
-        shown.x11->show_cursor(nullptr);
-        EXPECT_TRUE(turn_until([&] { return cursor_on(display) == arrow; }));
     }
+}
+
+TEST_F(X11Windows, IconsAreStraightColoursInTheSizesThatThereAre)
+{
+    Shown shown(loop, {.icons = {corner_of(2.0), nullptr, corner_of(4096.0), corner_of(1.0)}});
+    ASSERT_TRUE(settle(shown));
+    const auto reply = display.ask<xcb_get_property_reply, xcb_get_property>(
+        false, shown.x11->native_id(), display.atom("_NET_WM_ICON"), XCB_ATOM_CARDINAL, 0, 100);
+    const auto* words = static_cast<const std::uint32_t*>(xcb_get_property_value(reply.get()));
+    EXPECT_EQ(std::vector(words, words + reply->value_len),
+              (std::vector<std::uint32_t>{2, 2, 0, 0, 0x80ff6600, 0, 1, 1, 0x80ff6600}));
+}
+
+TEST_F(X11Windows, ChildWindowLiesOverThePictureOnTheScreenOfACompositorToo)
+{
+    Shown shown(loop);
+    Window child({310.0, 1760.0, 50.0, 50.0}, WindowStyle::borderless);
+    child.background_color = Color::device_rgba(0.0, 1.0, 0.0, 0.5);
+    ASSERT_TRUE(settle(shown));
+    const auto is_on_screen = [&] {
+        return display.pixels_of(display.root(), {300, 200, 200, 150}) == shown.painted();
+    };
+    EXPECT_TRUE(turn_until(is_on_screen));
+    ASSERT_EQ(std::system("picom --backend xrender --config /dev/null >/dev/null 2>&1 &"), 0);
+    ASSERT_TRUE(turn_until([&] { return display.owner("_NET_WM_CM_S0") != XCB_WINDOW_NONE; }));
+    const Pixels before = shown.painted();
+    shown.x11->window().add_child_window(child);
+    EXPECT_TRUE(turn_until([&] { return shown.painted() != before && is_on_screen(); }));
+    xcb_kill_client(display.get(), display.owner("_NET_WM_CM_S0"));
+    EXPECT_TRUE(turn_until([&] { return display.owner("_NET_WM_CM_S0") == XCB_WINDOW_NONE; }));
 }
 
 } // namespace

@@ -24,7 +24,6 @@ enum : NSUInteger {
     NSEventModifierFlagShift = 1 << 17,
     NSEventModifierFlagControl = 1 << 18,
     NSEventModifierFlagOption = 1 << 19,
-    NSEventModifierFlagCommand = 1 << 20,
 };
 
 @interface NSView (Backing)
