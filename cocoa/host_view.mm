@@ -52,7 +52,7 @@
 }
 
 // Whoever is told of an event may let go of this view.
-- (void)tell:(NSEvent*)event
+- (void)tellWindow:(NSEvent*)event
 {
     [[self retain] autorelease];
     if (shown_) shown_->tell(event);
@@ -60,37 +60,37 @@
 
 - (void)mouseDown:(NSEvent*)event
 {
-    [self tell:event];
+    [self tellWindow:event];
 }
 
 - (void)mouseDragged:(NSEvent*)event
 {
-    [self tell:event];
+    [self tellWindow:event];
 }
 
 - (void)mouseUp:(NSEvent*)event
 {
-    [self tell:event];
+    [self tellWindow:event];
 }
 
 - (void)rightMouseDown:(NSEvent*)event
 {
-    [self tell:event];
+    [self tellWindow:event];
 }
 
 - (void)rightMouseDragged:(NSEvent*)event
 {
-    [self tell:event];
+    [self tellWindow:event];
 }
 
 - (void)rightMouseUp:(NSEvent*)event
 {
-    [self tell:event];
+    [self tellWindow:event];
 }
 
 - (void)scrollWheel:(NSEvent*)event
 {
-    [self tell:event];
+    [self tellWindow:event];
 }
 
 @end
