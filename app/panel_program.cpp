@@ -2,6 +2,7 @@
 #include "app/panel_program.h"
 
 #include "app/curve_announcer.h"
+#include "app/open_overlay.h"
 #include "app/resources.h"
 #include "app/status_line.h"
 #include "app/stop_signals.h"
@@ -95,7 +96,7 @@ ExitStatus show_panel(const WindowOptions& options, const std::filesystem::path&
 
     if (options.trace) {
         std::setvbuf(stdout, nullptr, _IOLBF, BUFSIZ);
-        transcript.begin(*panel);
+        transcript.begin([&] { return open_overlay(*panel); });
     }
     while (open && std::ferror(stdout) == 0) {
         loop.turn(std::nullopt);

@@ -1,6 +1,7 @@
 // `r7 play`.
 #include "app/play.h"
 
+#include "app/open_overlay.h"
 #include "app/resources.h"
 #include "app/session_player.h"
 
@@ -64,7 +65,7 @@ ExitStatus play_sessions(const PlayOptions& options, const std::filesystem::path
         Transcript transcript(stdout);
         const auto stage = OffscreenPanel::open(std::make_shared<const Bundle>(resources), 1.0, &transcript);
         if (!stage) return no_resources(resources);
-        transcript.begin(stage->panel());
+        transcript.begin([&] { return open_overlay(stage->panel()); });
         const auto failed = play_script((*scripts)[i], *stage, transcript, options.pictures);
         if (std::fflush(stdout) != 0) return ExitStatus::failure;
         if (failed) {

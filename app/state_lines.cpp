@@ -2,7 +2,7 @@
 #include "app/state_lines.h"
 
 #include "app/number_text.h"
-#include "app/transcript.h"
+#include "app/open_overlay.h"
 #include "host/panel_view.h"
 #include "unit/embedded_unit.h"
 
@@ -154,7 +154,11 @@ constexpr KeyRow<QmR7View> kPanelKeys[] = {
     {"bound", [](const QmR7View& panel) { return text_of(panel.audio_unit() != nullptr); }},
     {"zoomed_tone_control_state", read<&QmR7View::tone_control_state>},
     {"zoomed_wave_shaper_state", read<&QmR7View::wave_shaper_state>},
-    {"overlay", [](const QmR7View& panel) { return std::string(overlay_editor(panel).value_or("none")); }},
+    {"overlay",
+     [](const QmR7View& panel) {
+         const auto overlay = open_overlay(panel);
+         return std::string(overlay ? overlay->editor : "none");
+     }},
 };
 
 using Record = _QM_R7_Bezier_Sequence;

@@ -2,56 +2,37 @@
 #include "app/transcript.h"
 
 #include "app/number_text.h"
-#include "host/panel_view.h"
-#include "platform/window.h"
+
+#include <utility>
 
 namespace r7 {
-
-namespace {
-
-// The panel opens one at most.
-const Window* overlay_window(const QmR7View& panel)
-{
-    const Window* window = panel.window();
-    return window && !window->child_windows().empty() ? window->child_windows().front() : nullptr;
-}
-
-} // namespace
 
 std::string text_of(const Rect& rect)
 {
     return text_of(rect.x) + ' ' + text_of(rect.y) + ' ' + text_of(rect.width) + ' ' + text_of(rect.height);
 }
 
-std::optional<std::string_view> overlay_editor(const QmR7View& panel)
+void Transcript::begin(std::function<std::optional<OpenOverlay>()> overlay)
 {
-    if (const Window* overlay = overlay_window(panel))
-        for (const OutletRow& row : outlet_rows())
-            if (view_in(panel, row) == overlay->content_view()) return row.name;
-    return std::nullopt;
-}
-
-void Transcript::begin(const QmR7View& panel)
-{
-    panel_ = &panel;
+    ask_overlay_ = std::move(overlay);
     log_.emplace([this](std::string_view text) { line("log " + std::string(text)); });
 }
 
 void Transcript::line(std::string_view text)
 {
-    if (!panel_) return;
+    if (!ask_overlay_) return;
     note_overlay();
     print(text);
 }
 
 void Transcript::note_overlay()
 {
-    if (!panel_) return;
-    const auto before = std::exchange(overlay_, overlay_editor(*panel_));
-    if (overlay_ == before) return;
-    if (before) print("overlay close");
-    if (overlay_)
-        print("overlay open " + std::string(*overlay_) + ' ' + text_of(overlay_window(*panel_)->frame()));
+    if (!ask_overlay_) return;
+    const auto before = std::exchange(overlay_, ask_overlay_());
+    const bool is_the_same = before && overlay_ && before->editor == overlay_->editor;
+    if (before && !is_the_same) print("overlay close");
+    if (overlay_ && !is_the_same)
+        print("overlay open " + std::string(overlay_->editor) + ' ' + text_of(overlay_->frame));
 }
 
 void Transcript::parameter_set(AudioUnitParameterID id, float value)

@@ -6,19 +6,21 @@
 #include "unit/embedded_unit.h"
 
 #include <cstdio>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
 
 namespace r7 {
 
-class QmR7View;
-
 /// `X Y WIDTH HEIGHT`.
 std::string text_of(const Rect& rect);
 
-/// The name of the editor that is open in a window of its own over the panel, or nothing.
-std::optional<std::string_view> overlay_editor(const QmR7View& panel);
+/// The window that an editor is open in over the panel: the editor's name, and where it is on the screen.
+struct OpenOverlay {
+    std::string_view editor; ///< of static storage
+    Rect frame;
+};
 
 /// Prints what a unit and a panel's window tell, in the words of docs/sessions.md, as it happens.
 class Transcript final : public UnitObserver {
@@ -26,9 +28,9 @@ public:
     /// Prints nothing until begin(). @param output  stays open; its errors show in ferror()
     explicit Transcript(std::FILE* output) : output_(output) {}
 
-    /// From here on, what happens to `panel`, which outlives the transcript's use, is printed, and the
-    /// messages that this thread logs are.
-    void begin(const QmR7View& panel);
+    /// From here on, what happens is printed, and the messages that this thread logs are.
+    /// @param overlay  answers, on this thread, what is open now
+    void begin(std::function<std::optional<OpenOverlay>()> overlay);
     /// Whether calls of the panel's listener are printed, too; at first they are not.
     void set_prints_events(bool prints) { prints_events_ = prints; }
 
@@ -45,9 +47,9 @@ private:
     void print(std::string_view text);
 
     std::FILE* output_;
-    const QmR7View* panel_ = nullptr; // none before begin()
+    std::function<std::optional<OpenOverlay>()> ask_overlay_; // none before begin()
     std::optional<LogCapture> log_;
-    std::optional<std::string_view> overlay_;
+    std::optional<OpenOverlay> overlay_;
     bool prints_events_ = false;
 };
 

@@ -137,8 +137,8 @@ constexpr bool rows_name_each_parameter_once()
     std::array<int, kParameterCount> named{};
     for (const KnobRow& row : kKnobRows) ++named[row.id];
     for (const SwitchRow& row : kSwitchRows) ++named[row.id];
-    for (std::size_t id = 30; id < kUnshownParameter; ++id)
-        if (named[id] != 1) return false;
+    for (std::size_t parameter = 30; parameter < kUnshownParameter; ++parameter)
+        if (named[parameter] != 1) return false;
     return kKnobRows.size() + kSwitchRows.size() == kUnshownParameter - 30;
 }
 static_assert(rows_name_each_parameter_once());

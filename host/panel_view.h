@@ -91,8 +91,9 @@ private:
 
     void zoom_stage(const StageRow& row);
     void zoom_tone_control(const ToneRow& row);
-    // False where the panel is in no window.
-    bool open_overlay(const ViewRef& editor);
+    // Makes the overlay window around an editor. False where the panel is in no window.
+    bool make_overlay(const ViewRef& editor);
+    void show_overlay();
     void close_overlay();
 
     std::shared_ptr<const Bundle> bundle_;

@@ -27,7 +27,8 @@ void QmR7View::toggle_callback(View& sender)
 
 void QmR7View::zoom_stage(const StageRow& row)
 {
-    if (overlay_window || !open_overlay(zoomed_wave_shaper_display)) return;
+    if (overlay_window || !make_overlay(zoomed_wave_shaper_display)) return;
+    show_overlay();
     zoomed_wave_shaper_state = row.zoom_state;
     QM_BezierWaveShaperView& editor = *zoomed_wave_shaper_display;
     editor.set_from_sequence_data(data_of(row));
@@ -41,12 +42,13 @@ void QmR7View::zoom_tone_control(const ToneRow& row)
     // The state follows the click even where nothing opens: nothing reads it but whoever asks the panel.
     zoomed_tone_control_state = row.zoom_state;
     const auto& editor = this->*row.editor;
-    if (overlay_window || !open_overlay(editor)) return;
+    if (overlay_window || !make_overlay(editor)) return;
     overlay_window->accepts_mouse_moved_events = true;
+    show_overlay();
     editor->set_hidden(false);
 }
 
-bool QmR7View::open_overlay(const ViewRef& editor)
+bool QmR7View::make_overlay(const ViewRef& editor)
 {
     Window* const panel_window = window();
     if (!panel_window) return false;
@@ -58,9 +60,14 @@ bool QmR7View::open_overlay(const ViewRef& editor)
         content, WindowStyle::borderless, WindowBacking::buffered, WindowCreation::deferred);
     overlay_window->level = WindowLevel::floating;
     overlay_window->set_content_view(editor);
-    panel_window->add_child_window(*overlay_window);
-    overlay_window->make_key_and_order_front();
     return true;
+}
+
+// A back end makes the overlay's own window here: all of it is settled by now.
+void QmR7View::show_overlay()
+{
+    window()->add_child_window(*overlay_window);
+    overlay_window->make_key_and_order_front();
 }
 
 void QmR7View::close_overlay()

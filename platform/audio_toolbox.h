@@ -16,7 +16,7 @@
 //   needed, gives kAudio_ParamError, and nothing happens.
 #pragma once
 
-#if defined(__APPLE__)
+#if __has_include(<AudioToolbox/AudioToolbox.h>)
 #include <AudioToolbox/AudioToolbox.h>
 #include <CoreFoundation/CoreFoundation.h>
 #else

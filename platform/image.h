@@ -19,7 +19,7 @@ using ImageRef = std::shared_ptr<const Image>;
 inline constexpr int kMostImagePixels = 4096;
 
 /// A picture of a size in points. Implemented once for each drawing back end.
-class Image {
+class Image : public std::enable_shared_from_this<Image> {
 public:
     virtual ~Image() = default;
     Image(const Image&) = delete;

@@ -1,7 +1,6 @@
 // The panel's messages, and who hears them.
 #include "platform/log.h"
 
-#include <cstdio>
 #include <utility>
 
 namespace r7 {
@@ -16,7 +15,7 @@ void log_message(std::string_view text)
         innermost->receiver_(text);
         return;
     }
-    std::fprintf(stderr, "%.*s\n", static_cast<int>(text.size()), text.data());
+    write_log_line(text);
 }
 
 LogCapture::LogCapture(Receiver receiver) : receiver_(std::move(receiver)), outer_(innermost)

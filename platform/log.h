@@ -6,10 +6,14 @@
 
 namespace r7 {
 
-/// Logs one line: on standard error, or to the innermost LogCapture of this thread.
+/// Logs one line: where the platform's log is (write_log_line), or to the innermost LogCapture of this
+/// thread.
 void log_message(std::string_view text);
 
-/// While it lives, the messages of this thread go to a receiver instead of standard error. Captures nest.
+/// Writes one line to the platform's log: standard error, or a Mac's system log. Implemented once for each.
+void write_log_line(std::string_view text);
+
+/// While it lives, the messages of this thread go to a receiver instead. Captures nest.
 class LogCapture final {
 public:
     using Receiver = std::function<void(std::string_view text)>;

@@ -111,31 +111,37 @@ bool RunLoop::has(const RunLoopSource& source) const
                                [&](const Entry& entry) { return entry.source.lock().get() == &source; });
 }
 
+RunLoop::Prospect RunLoop::ask(RunLoopMode mode) const
+{
+    Prospect prospect;
+    for (const Entry& entry : entries_) {
+        const auto source = entry.source.lock();
+        if (!source || !entry.is_served_in(mode)) continue;
+        prospect.sources.push_back(entry.source);
+        prospect.files.push_back(source->file_descriptor());
+        if (const auto due = source->due()) prospect.sleep = earlier(prospect.sleep, *due - clock_.now());
+        if (source->is_pending()) prospect.sleep = Time{0};
+    }
+    prospect.files.push_back(waker_->event_file_);
+    return prospect;
+}
+
 void RunLoop::turn(std::optional<Time> at_most, RunLoopMode mode)
 {
     // What is served in this turn is settled here: a source may add and remove others and turn the loop
     // itself, and one that finds itself new work waits for the next turn, so that all others have theirs.
-    std::vector<std::weak_ptr<RunLoopSource>> sources;
+    const Prospect prospect = ask(mode);
     std::vector<pollfd> files;
-    std::optional<Time> sleep = at_most;
-    for (const Entry& entry : entries_) {
-        const auto source = entry.source.lock();
-        if (!source || !entry.is_served_in(mode)) continue;
-        sources.push_back(entry.source);
-        files.push_back({source->file_descriptor(), POLLIN, 0});
-        if (const auto due = source->due()) sleep = earlier(sleep, *due - clock_.now());
-        if (source->is_pending()) sleep = Time{0};
-    }
-    files.push_back({waker_->event_file_, POLLIN, 0});
+    for (const int file : prospect.files) files.push_back({file, POLLIN, 0});
 
     // Interrupted by a signal it leaves no answers behind, and the turn goes on with what is due.
-    ::poll(files.data(), files.size(), poll_timeout(sleep));
+    ::poll(files.data(), files.size(), poll_timeout(earlier(at_most, prospect.sleep)));
     // Before anybody is asked for work: a wake that comes while they are served counts for the next sleep.
     if (files.back().revents != 0) waker_->forget_wakes();
 
     const Time now = clock_.now();
-    for (std::size_t i = 0; i < sources.size(); ++i) {
-        const auto source = sources[i].lock();
+    for (std::size_t i = 0; i < prospect.sources.size(); ++i) {
+        const auto source = prospect.sources[i].lock();
         if (!source || !has(*source)) continue;
         const auto due = source->due();
         if (files[i].revents != 0 || (due && *due <= now) || source->is_pending()) source->serve();

@@ -119,6 +119,8 @@ public:
     void advance(SimulatedClock& clock, Time duration, RunLoopMode mode = RunLoopMode::standard);
 
 private:
+    friend class RunLoopFile;
+
     struct Entry {
         std::weak_ptr<RunLoopSource> source;
         Modes modes;
@@ -129,6 +131,15 @@ private:
         }
     };
 
+    // The sources of a mode, what they say before a sleep, and how long that may last (no time: until a file
+    // can be read). The last file is the waker's; the others belong to the sources, in the same order.
+    struct Prospect {
+        std::vector<std::weak_ptr<RunLoopSource>> sources;
+        std::vector<int> files;
+        std::optional<Time> sleep;
+    };
+
+    Prospect ask(RunLoopMode mode) const;
     // Whether the source is still to be served, in whichever modes.
     bool has(const RunLoopSource& source) const;
     // The earliest time after `time` that a source is due at, or nothing.

@@ -57,7 +57,8 @@ void Window::set_content_view(ViewRef view)
 void Window::set_backend(WindowBackend* backend)
 {
     backend_ = backend;
-    if (backend_ && !dirty_.is_empty()) backend_->window_needs_paint();
+    if (!backend_) return;
+    for (const Rect& part : dirty_.rects()) backend_->window_needs_paint(part);
 }
 
 void Window::add_child_window(Window& child)
@@ -129,6 +130,7 @@ Rect Window::covered_by(const Window& child) const
 Window::Target Window::target_at(Point point) const
 {
     for (auto child = children_.rbegin(); child != children_.rend(); ++child) {
+        if (!(*child)->is_layer()) continue;
         const Point origin = origin_of(**child);
         if (!contains((*child)->frame_, {point.x + frame_.x, point.y + frame_.y})) continue;
         // A child takes what lies above it, even where no view of it does.
@@ -191,19 +193,19 @@ void Window::set_needs_display_in(const Rect& rect)
 {
     const Rect asked = intersection(rect, {0.0, 0.0, frame_.width, frame_.height});
     if (asked.is_empty()) return;
-    if (!backend_ && parent_) {
+    if (is_layer()) {
         parent_->set_needs_display_in(moved_by(asked, parent_->origin_of(*this)));
         return;
     }
-    const bool first = dirty_.is_empty();
     dirty_.add(asked);
-    if (first && backend_) backend_->window_needs_paint();
+    if (backend_) backend_->window_needs_paint(asked);
 }
 
 void Window::update_views()
 {
     if (content_view_) content_view_->update_tree();
-    for (Window* child : children_) child->update_views();
+    for (Window* child : children_)
+        if (child->is_layer()) child->update_views();
 }
 
 DirtyRegion Window::take_dirty_region()
@@ -221,6 +223,7 @@ void Window::paint(Graphics& graphics, const Rect& dirty)
     graphics.fill_rect(bounds, background_color.get(), Compositing::source_over);
     if (content_view_) content_view_->paint_tree(graphics, dirty);
     for (Window* child : children_) {
+        if (!child->is_layer()) continue;
         const Point origin = origin_of(*child);
         if (child->has_shadow) paint_window_shadow(graphics, moved_by(child->frame_, {-frame_.x, -frame_.y}));
         const Graphics::SavedState above(graphics);

@@ -28,10 +28,11 @@ class WindowBackend {
 public:
     virtual ~WindowBackend() = default;
 
-    /// Something is to be redrawn: paint once in a later turn of the loop.
-    virtual void window_needs_paint() = 0;
+    /// `part` of the window is to be redrawn, in its coordinates, and not empty: paint once, for this and
+    /// what else is asked, in a later turn of the loop.
+    virtual void window_needs_paint(const Rect& part) = 0;
     /// A child window was added or removed, or came to the front. A back end that draws child windows as
-    /// layers has nothing to do.
+    /// layers has nothing to do; one with windows of its own for them sets itself, or another, as theirs.
     virtual void child_windows_changed() {}
     /// Shows this cursor over the window; null for the system's own arrow.
     virtual void show_cursor(const CursorRef& cursor) = 0;
@@ -40,9 +41,8 @@ public:
 /// A rectangle of the screen that shows a tree of views.
 ///
 /// The frame is in screen points, y upward; window coordinates start at its lower left corner. A child window
-/// lies above its parent, moves with it, and, where the back end has no windows of its own for children, is a
-/// layer of the parent's picture that takes the events above it first. Neither owns the other: whoever shows
-/// a window holds it.
+/// lies above its parent, moves with it, and, where it has no back end of its own, is a layer of the parent's
+/// picture that takes the events above it first. Neither owns the other: whoever shows a window holds it.
 class Window : public std::enable_shared_from_this<Window> {
 public:
     explicit Window(const Rect& frame, WindowStyle style = WindowStyle::titled,
@@ -97,9 +97,9 @@ public:
     /// Refused, with no change, by a view that does not accept it.
     bool make_first_responder(const ViewRef& view);
 
-    // Events, from the back end, in this window's coordinates. Child windows take those above them first;
-    // drags and the release go to the view that took the press, wherever they happen and whether or not it is
-    // still shown.
+    // Events, from the back end, in this window's coordinates. Layers take those above them first; drags and
+    // the release go to the view that took the press, wherever they happen and whether or not it is still
+    // shown.
     void press(MouseButton button, const MouseEvent& event);
     void drag(MouseButton button, const MouseEvent& event);
     void release(MouseButton button, const MouseEvent& event);
@@ -127,6 +127,8 @@ private:
     Target target_at(Point point) const;
     // Who took the press of a button, if it still exists.
     Target pressed_by(MouseButton button) const;
+    // Whether this is painted into its parent's picture.
+    bool is_layer() const { return parent_ && !backend_; }
     // Lower left corner of a child, in this window's coordinates.
     Point origin_of(const Window& child) const;
     // What a child and its shadow cover, in this window's coordinates.

@@ -7,7 +7,7 @@
 namespace r7 {
 
 /// What every image of this back end is: pixels, for any scale that is asked for.
-class CairoImage : public Image, public std::enable_shared_from_this<CairoImage> {
+class CairoImage : public Image {
 public:
     /// Pixels of the whole image, anchored at its lower left corner.
     struct Raster {

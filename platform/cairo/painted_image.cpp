@@ -1,7 +1,7 @@
 // Images painted by code.
 #include "platform/cairo/cairo_graphics.h"
 #include "platform/cairo/cairo_image.h"
-#include "platform/cairo/recording.h"
+#include "platform/recording.h"
 
 #include <mutex>
 

@@ -4,13 +4,14 @@
 #include <expat.h>
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <fstream>
 #include <iterator>
+#include <locale>
 #include <memory>
 #include <optional>
 #include <span>
+#include <sstream>
 #include <string_view>
 
 namespace r7 {
@@ -25,11 +26,15 @@ struct Attribute {
     std::string_view value;
 };
 
+// A decimal number. By a stream, in no country's locale, for not every Mac's from_chars reads numbers with a
+// point.
 std::optional<double> finite_number(std::string_view text)
 {
+    if (text.starts_with('+') || text.find_first_not_of("0123456789.eE+-") != text.npos) return std::nullopt;
+    std::istringstream in{std::string(text)};
+    in.imbue(std::locale::classic());
     double number = 0.0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (error != std::errc{} || end != text.data() + text.size() || !std::isfinite(number))
+    if (!(in >> number) || !std::isfinite(number) || in.peek() != std::istringstream::traits_type::eof())
         return std::nullopt;
     return number;
 }

@@ -21,7 +21,7 @@ public:
     /// The cursor shown now, or none.
     const CursorRef& cursor() const { return cursor_; }
 
-    void window_needs_paint() override {}
+    void window_needs_paint(const Rect&) override {}
     void show_cursor(const CursorRef& cursor) override { cursor_ = cursor; }
 
 private:

@@ -42,7 +42,7 @@ public:
     std::uint64_t bytes_sent() const;
 
     // WindowBackend
-    void window_needs_paint() override { wants_turn_ = true; }
+    void window_needs_paint(const Rect&) override { wants_turn_ = true; }
     /// The cursor is remade only when it is another one than the last; null is that of the window around.
     void show_cursor(const CursorRef& cursor) override;
 

@@ -25,7 +25,7 @@ public:
 
 class Backend final : public WindowBackend {
 public:
-    void window_needs_paint() override {}
+    void window_needs_paint(const Rect&) override {}
     void show_cursor(const CursorRef&) override {}
 };
 

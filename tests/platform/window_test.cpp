@@ -43,7 +43,7 @@ private:
 class Backend final : public WindowBackend {
 public:
     int requests = 0;
-    void window_needs_paint() override { ++requests; }
+    void window_needs_paint(const Rect&) override { ++requests; }
     void show_cursor(const CursorRef&) override {}
 };
 
@@ -101,11 +101,11 @@ TEST_F(WindowTest, APressedViewThatIsGoneIsSentNothing)
     EXPECT_EQ(content->heard + outer->heard, "");
 }
 
-TEST_F(WindowTest, RedrawRequestsAreClippedToWhatShowsAndAskForOnePaint)
+TEST_F(WindowTest, RedrawRequestsAreClippedToWhatShowsAndMerge)
 {
     inner->set_needs_display_in({40, 30, 100, 100});
     inner->set_needs_display_in({45, 35, 1, 1});
-    EXPECT_EQ(backend.requests, 1);
+    EXPECT_EQ(backend.requests, 2);
     const DirtyRegion dirty = window->take_dirty_region();
     ASSERT_EQ(dirty.rects().size(), 1u);
     EXPECT_EQ(dirty.rects()[0], (Rect{70, 65, 10, 10}));
@@ -115,7 +115,7 @@ TEST_F(WindowTest, RedrawRequestsAreClippedToWhatShowsAndAskForOnePaint)
     window->take_dirty_region();
     inner->set_needs_display();
     EXPECT_TRUE(window->take_dirty_region().is_empty());
-    EXPECT_EQ(backend.requests, 2);
+    EXPECT_EQ(backend.requests, 3);
 }
 
 TEST_F(WindowTest, OnlyVisibleViewsAreBroughtUpToDate)
@@ -129,7 +129,7 @@ TEST_F(WindowTest, OnlyVisibleViewsAreBroughtUpToDate)
     EXPECT_EQ(inner->updates, before + 1);
 }
 
-TEST_F(WindowTest, AChildIsALayerThatTakesTheEventsAboveIt)
+TEST_F(WindowTest, AChildWithoutABackEndIsALayerThatTakesTheEventsAboveIt)
 {
     auto child = std::make_shared<Window>(Rect{110, 60, 100, 80});
     auto layer = std::make_shared<Probe>(Rect{0, 0, 100, 80});
@@ -143,6 +143,16 @@ TEST_F(WindowTest, AChildIsALayerThatTakesTheEventsAboveIt)
     EXPECT_EQ(layer->last_location, (Point{0, 0}));
     window->scroll({.location_in_window = {110, 20}});
     EXPECT_EQ(layer->heard, "down scroll ");
+
+    Backend own;
+    child->set_backend(&own);
+    layer->set_needs_display();
+    window->scroll({.location_in_window = {10, 10}});
+    EXPECT_TRUE(window->take_dirty_region().is_empty());
+    EXPECT_GT(own.requests, 0);
+    EXPECT_EQ(layer->heard, "down scroll ");
+    EXPECT_EQ(content->heard, "scroll scroll ");
+    child->set_backend(nullptr);
 
     layer->set_needs_display_in({1, 2, 3, 4});
     EXPECT_EQ(window->take_dirty_region().rects()[0], (Rect{11, 12, 3, 4}));

@@ -1,31 +1,19 @@
 // The run loop: what a turn serves, what ends its sleep, and what sources may do to each other.
 #include "platform/run_loop.h"
 
+#include "tests/run_loop/source.h"
+
 #include <gtest/gtest.h>
 
 #include <sys/eventfd.h>
 #include <unistd.h>
 
-#include <functional>
 #include <thread>
 
 namespace r7 {
 namespace {
 
 using namespace std::chrono_literals;
-
-struct Source final : RunLoopSource {
-    int file = -1;
-    bool pending = false;
-    std::optional<Time> when;
-    std::function<void()> work;
-
-    int file_descriptor() const override { return file; }
-    bool is_pending() override { return pending; }
-    std::optional<Time> due() const override { return when; }
-    void serve() override { work(); }
-    void run_loop_ended() override { work(); }
-};
 
 struct RunLoopTest : testing::Test {
     std::string served;

@@ -53,6 +53,16 @@ public:
         input(XCB_BUTTON_PRESS, button, 0, 0, milliseconds);
     }
     void release(int button) const { input(XCB_BUTTON_RELEASE, button); }
+    /// Presses or releases the first key of a modifier, numbered as in XCB_MAP_INDEX_SHIFT and on.
+    void hold(int modifier, bool down) const
+    {
+        const auto map = ask<xcb_get_modifier_mapping_reply, xcb_get_modifier_mapping>();
+        const xcb_keycode_t* key =
+            xcb_get_modifier_mapping_keycodes(map.get()) + modifier * map->keycodes_per_modifier;
+        for (int i = 1; *key == 0 && i < map->keycodes_per_modifier; ++i) ++key;
+        ASSERT_NE(*key, 0) << "no key is modifier " << modifier;
+        input(down ? XCB_KEY_PRESS : XCB_KEY_RELEASE, *key);
+    }
     std::pair<int, int> pointer() const
     {
         const auto at = ask<xcb_query_pointer_reply, xcb_query_pointer>(root());

@@ -1,7 +1,5 @@
 // Recorded drawing: one closure for each operation.
-#include "platform/cairo/recording.h"
-
-#include "platform/cairo/cairo_image.h"
+#include "platform/recording.h"
 
 #include <string>
 
@@ -16,7 +14,7 @@ ColorRef kept(const Color* color)
 
 ImageRef kept(const Image* image)
 {
-    return image ? CairoImage::of(*image).shared_from_this() : nullptr;
+    return image ? image->shared_from_this() : nullptr;
 }
 
 } // namespace
