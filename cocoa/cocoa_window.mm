@@ -74,6 +74,7 @@ try {
 
 void CocoaWindow::tell(NSEvent* event) noexcept
 try {
+    if (![view_ window]) return; // taken away in mid-drag
     const auto window = window_;
     update_frame();
     // Without a window manager, the click that made the panel's window the key one put it over its children.

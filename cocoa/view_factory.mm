@@ -5,25 +5,34 @@
 #include "host/view_factory.h"
 #include "platform/cocoa/conversions.h"
 
+namespace {
+
+// One for the process, so that all panels share their images.
+r7::QmR7ViewFactory& shared_factory()
+{
+    static r7::QmR7ViewFactory factory(std::make_shared<const r7::Bundle>(
+        r7::from_native([[NSBundle bundleForClass:[QmR7ViewFactory class]] resourcePath])));
+    return factory;
+}
+
+} // namespace
+
 @implementation QmR7ViewFactory
 
 - (unsigned)interfaceVersion
 {
-    return 0;
+    return shared_factory().interfaceVersion();
 }
 
 - (NSString*)description
 {
-    return r7::to_native("Quillmere: R7");
+    return r7::to_native(shared_factory().description());
 }
 
 - (NSView*)uiViewForAudioUnit:(AudioUnit)unit withSize:(NSSize)preferredSize
 {
-    // One for the process, so that all panels share their images.
-    static const auto resources = std::make_shared<const r7::Bundle>(
-        [[[NSBundle bundleForClass:[self class]] resourcePath] UTF8String]);
-    const auto panel = r7::QmR7ViewFactory(resources).uiViewForAudioUnit_withSize(
-        unit, {preferredSize.width, preferredSize.height});
+    const auto panel =
+        shared_factory().uiViewForAudioUnit_withSize(unit, {preferredSize.width, preferredSize.height});
     return panel ? [[[QmR7View alloc] initWithPanel:panel] autorelease] : nil;
 }
 

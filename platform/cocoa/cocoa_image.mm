@@ -51,6 +51,7 @@ ObjCPtr<NSBitmapImageRep> read_png(const std::filesystem::path& path)
 {
     if (!open_png_file(path)) return {};
     NSData* const data = [NSData dataWithContentsOfFile:to_native(path.native())];
+    if (!data) return {};
     auto picture = ObjCPtr<NSBitmapImageRep>::share([NSBitmapImageRep imageRepWithData:data]);
     [picture.get() setSize:NSMakeSize(static_cast<CGFloat>([picture.get() pixelsWide]),
                                       static_cast<CGFloat>([picture.get() pixelsHigh]))];

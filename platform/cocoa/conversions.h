@@ -5,6 +5,7 @@
 
 #import <Foundation/Foundation.h>
 
+#include <string>
 #include <string_view>
 
 namespace r7 {
@@ -27,6 +28,13 @@ inline Point from_native(NSPoint point)
 inline Rect from_native(NSRect rect)
 {
     return {rect.origin.x, rect.origin.y, rect.size.width, rect.size.height};
+}
+
+/// The text as UTF-8; of nil, an empty one.
+inline std::string from_native(NSString* text)
+{
+    const char* const utf8 = [text UTF8String];
+    return utf8 ? utf8 : "";
 }
 
 /// The text; bytes that are no UTF-8 make it empty.

@@ -30,9 +30,11 @@ ObjCPtr<NSImage> picture_of(NSRect area, Paint paint)
 void stroke_with_pattern(NSBezierPath* path, NSColor* pattern)
 {
     const CGFloat reach = [path lineWidth];
+    // A curve may lead far out of what can be seen.
+    NSRect area = NSIntersectionRect(NSInsetRect([path bounds], -reach, -reach), [[NSView focusView] bounds]);
+    if (NSIsEmptyRect(area)) return;
     // From whole tiles on, so that the pattern repeats as it does outside the picture.
     const NSSize tile = [[pattern patternImage] size];
-    NSRect area = NSInsetRect([path bounds], -reach, -reach);
     const CGFloat left = std::floor(NSMinX(area) / tile.width) * tile.width;
     const CGFloat bottom = std::floor(NSMinY(area) / tile.height) * tile.height;
     area = NSMakeRect(left, bottom, std::ceil(NSMaxX(area) - left), std::ceil(NSMaxY(area) - bottom));

@@ -62,16 +62,16 @@ Pixels composed(const Pixels& above, Pixels below)
 }
 
 struct CocoaScreen : CocoaTest {
-    xcb_connection_t* display() const { return hand.display().get(); }
+    const testing_x11::Display& display() const { return hand.display(); }
 
     /// A part of what a window has, with all bits of the pixels; empty where it cannot be seen.
     Pixels pixels_of(xcb_window_t window, Point upper_left, Size size) const
     {
         const auto at = [](double value) { return static_cast<std::int16_t>(value); };
         const auto extent = [](double value) { return static_cast<std::uint16_t>(value); };
-        const auto asked = xcb_get_image(display(), XCB_IMAGE_FORMAT_Z_PIXMAP, window, at(upper_left.x),
-                                         at(upper_left.y), extent(size.width), extent(size.height), ~0U);
-        const XcbPointer<xcb_get_image_reply_t> image(xcb_get_image_reply(display(), asked, nullptr));
+        const auto image = display().ask<xcb_get_image_reply, xcb_get_image>(
+            XCB_IMAGE_FORMAT_Z_PIXMAP, window, at(upper_left.x), at(upper_left.y), extent(size.width),
+            extent(size.height), ~0U);
         if (!image) return {};
         Pixels pixels(xcb_get_image_data_length(image.get()) / 4);
         std::memcpy(pixels.data(), xcb_get_image_data(image.get()), pixels.size() * 4);
@@ -82,7 +82,7 @@ struct CocoaScreen : CocoaTest {
     Pixels shown(Size size) const
     {
         const Rect frame = twin->window().window().frame();
-        const xcb_screen_t& screen = *xcb_setup_roots_iterator(xcb_get_setup(display())).data;
+        const xcb_screen_t& screen = *xcb_setup_roots_iterator(xcb_get_setup(display().get())).data;
         return pixels_of(screen.root, {frame.x, screen.height_in_pixels - frame.top()}, size);
     }
     Pixels painted(Size size) const
@@ -114,14 +114,12 @@ struct CocoaScreen : CocoaTest {
     /// The window of 32 bits and that size that can be seen, or none.
     xcb_window_t transparent_window(Size size) const
     {
-        const auto asked = xcb_query_tree(display(), hand.display().root());
-        const XcbPointer<xcb_query_tree_reply_t> tree(xcb_query_tree_reply(display(), asked, nullptr));
+        const auto tree = display().ask<xcb_query_tree_reply, xcb_query_tree>(display().root());
         for (int i = 0; i < xcb_query_tree_children_length(tree.get()); ++i) {
             const xcb_window_t window = xcb_query_tree_children(tree.get())[i];
-            const XcbPointer<xcb_get_geometry_reply_t> geometry(
-                xcb_get_geometry_reply(display(), xcb_get_geometry(display(), window), nullptr));
-            const XcbPointer<xcb_get_window_attributes_reply_t> attributes(xcb_get_window_attributes_reply(
-                display(), xcb_get_window_attributes(display(), window), nullptr));
+            const auto geometry = display().ask<xcb_get_geometry_reply, xcb_get_geometry>(window);
+            const auto attributes =
+                display().ask<xcb_get_window_attributes_reply, xcb_get_window_attributes>(window);
             if (geometry && geometry->depth == 32 && geometry->width == size.width &&
                 geometry->height == size.height && attributes->map_state == XCB_MAP_STATE_VIEWABLE)
                 return window;
@@ -136,7 +134,7 @@ TEST_F(CocoaScreen, AnOverlayTakesTheKeysAndLetsThePanelThrough)
     play("click wave_shaper_one_display\nclick wave_shaper_one_display clicks 2");
     const xcb_window_t overlay = transparent_window(kEditor);
     ASSERT_NE(overlay, XCB_WINDOW_NONE);
-    EXPECT_TRUE(eventually([&] { return hand.display().focus() == overlay; }));
+    EXPECT_TRUE(eventually([&] { return display().focus() == overlay; }));
     for (int paints = 0; paints < 2; ++paints) {
         const Pixels black_at_six_tenths{153U << 24};
         EXPECT_TRUE(eventually([&] {
@@ -204,7 +202,7 @@ TEST_F(CocoaScreen, AutomationOnAnotherThreadTurnsAKnob)
     const OutletRow* const knob = outlet_row_named("output_level");
     const Size size = view_in(twin->panel(), *knob)->bounds().size();
     const Point upper_left = hand.pixel_of(knob, Point{0.0, size.height - 1.0});
-    const auto picture = [&] { return pixels_of(hand.display().root(), upper_left, size); };
+    const auto picture = [&] { return pixels_of(display().root(), upper_left, size); };
     const auto before = picture();
     ASSERT_EQ(host.tell("automate 35 1.5"), "done");
     EXPECT_TRUE(eventually([&] { return picture() != before; }));

@@ -61,9 +61,9 @@ public:
         if (std::abs(scroll.delta_y) != 1.0) throw std::invalid_argument("a wheel turns by notches");
         move_to(pixel_of(scroll.view, scroll.at));
         come_late_for_a_double_click();
-        const int notch = scroll.delta_y > 0.0 ? 4 : 5;
-        display_.press(notch);
-        display_.release(notch);
+        const int wheel = scroll.delta_y > 0.0 ? 4 : 5;
+        display_.press(wheel);
+        display_.release(wheel);
         clicked();
         settle_();
     }
@@ -86,9 +86,7 @@ private:
 
     Point screen() const
     {
-        const auto asked = xcb_get_geometry(display_.get(), display_.root());
-        const XcbPointer<xcb_get_geometry_reply_t> reply(
-            xcb_get_geometry_reply(display_.get(), asked, nullptr));
+        const auto reply = display_.ask<xcb_get_geometry_reply, xcb_get_geometry>(display_.root());
         return {static_cast<double>(reply->width), static_cast<double>(reply->height)};
     }
     void move_to(Point pixel)

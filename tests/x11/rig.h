@@ -1,4 +1,5 @@
-// Windows and a loop on the display that the tests run on, and the other side: another program and a mouse.
+// Windows and a loop on the display that the tests run on, and the other side: another program, a mouse, a
+// keyboard.
 #pragma once
 
 #include "platform/graphics.h"
@@ -44,7 +45,7 @@ public:
     }
     xcb_window_t focus() const { return ask<xcb_get_input_focus_reply, xcb_get_input_focus>()->focus; }
 
-    // Mouse.
+    // Mouse and keyboard.
     void move_to(int x, int y) const { input(XCB_MOTION_NOTIFY, 0, x, y); }
     void move_by(int x, int y) const { input(XCB_MOTION_NOTIFY, 1, x, y); }
     /// After a while, by the display's clock.
