@@ -18,7 +18,7 @@ public:
     HostProcess(const HostProcess&) = delete;
     HostProcess& operator=(const HostProcess&) = delete;
 
-    /// Gives it a command (tests/cocoa/host/panel_host.h) and waits for the answer; "ended" where there is
+    /// Gives it a command (app/cocoa_host/panel_host.h) and waits for the answer; "ended" where there is
     /// none.
     std::string tell(std::string_view command);
     /// The lines that it printed between its answers since the last call.

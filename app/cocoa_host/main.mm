@@ -1,8 +1,8 @@
 // r7_cocoa_host -bundle PATH -origin "X Y": shows the bundle's view, and obeys standard input
 // (PanelHost::perform).
+#include "app/cocoa_host/descriptor_watch.h"
+#include "app/cocoa_host/panel_host.h"
 #include "platform/run_loop_file.h"
-#include "tests/cocoa/host/descriptor_watch.h"
-#include "tests/cocoa/host/panel_host.h"
 
 #include <algorithm>
 #include <cstdio>

@@ -1,5 +1,5 @@
 // A host of the view bundle.
-#include "tests/cocoa/host/panel_host.h"
+#include "app/cocoa_host/panel_host.h"
 
 #include "app/number_text.h"
 #include "cocoa/audio_unit_ui.h"

@@ -1,5 +1,5 @@
 // A file descriptor watched by the thread's NSRunLoop: GNUstep's way.
-#include "tests/cocoa/host/descriptor_watch.h"
+#include "app/cocoa_host/descriptor_watch.h"
 
 #include <cstdint>
 #include <memory>
