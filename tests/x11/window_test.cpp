@@ -2,6 +2,10 @@
 #include "platform/cairo/image_pixels.h"
 #include "tests/x11/rig.h"
 
+#include <csignal>
+#include <cstdio>
+#include <memory>
+
 namespace r7::testing_x11 {
 namespace {
 
@@ -71,6 +75,23 @@ TEST_F(X11Windows, EmbeddedWindowLeavesFocusAndPixelFormatToItsHostWhoseEndIsTol
     EXPECT_EQ(shown.lost, 1);
     EXPECT_EQ(shown.view->paints, paints);
     EXPECT_EQ(shown.view->heard(), "");
+}
+
+TEST_F(X11Windows, InAnotherProcessesWindowItHearsTheHandUntilThatProcessIsKilledInMidDrag)
+{
+    const std::unique_ptr<std::FILE, decltype(&::pclose)> other(
+        ::popen("echo $$; exec xev -event property -bw 0 -geometry 250x180+300+200", "r"), ::pclose);
+    int process = 0;
+    unsigned host = 0;
+    ASSERT_EQ(std::fscanf(other.get(), "%d Outer window is %x", &process, &host), 2);
+    Shown shown(loop, {.parent = host});
+    ASSERT_TRUE(settle(shown));
+    display.move_to(311, 220);
+    display.press(1);
+    display.move_to(700, 900);
+    EXPECT_TRUE(turn_until([&] { return shown.view->has_heard("drag"); }));
+    ASSERT_EQ(::kill(process, SIGKILL), 0);
+    EXPECT_TRUE(turn_until([&] { return shown.lost == 1; }));
 }
 
 TEST_F(X11Windows, CloseRequestMayDestroyTheWindow)
