@@ -23,13 +23,10 @@ TEST(SessionScript, ReadsOptionalWordsAndNumbersInTheirOwnPrecision)
 {
     const auto plain = last_of<session::Press>("press delay_depth_knob");
     EXPECT_EQ(plain.view->name, "delay_depth_knob");
-    EXPECT_FALSE(plain.at);
-    EXPECT_EQ(plain.clicks, 1);
-    EXPECT_EQ(plain.button, MouseButton::primary);
+    EXPECT_TRUE(!plain.at && plain.clicks == 1 && plain.button == MouseButton::primary);
     const auto full = last_of<session::Press>("press envelope_mode at 3.5 -inf clicks 2 right");
     EXPECT_EQ(full.at, (Point{3.5, -std::numeric_limits<double>::infinity()}));
-    EXPECT_EQ(full.clicks, 2);
-    EXPECT_EQ(full.button, MouseButton::secondary);
+    EXPECT_TRUE(full.clicks == 2 && full.button == MouseButton::secondary);
     const auto drag = last_of<session::Drag>("press output_level\ndrag 0.1 -15 control shift option\n");
     EXPECT_EQ(drag.delta_x, 0.1);
     EXPECT_EQ(drag.modifiers, Modifiers::control | Modifiers::shift | Modifiers::option);
@@ -44,9 +41,8 @@ TEST(SessionScript, SaysWhatIsWrong)
     const struct {
         std::string text, what;
     } cases[] = {
-        {"turn output_level", R"(there is no command "turn")"},
-        {"unit curves 1", R"(there is no command "unit curves")"},
         {"Press output_level", R"(there is no command "Press")"},
+        {"unit curves 1", R"(there is no command "unit curves")"},
         {"press", "a word is missing: " + form},
         {"press output_level right at 1 2", R"("at" is a word too many: )" + form},
         {"show", "a word is missing: show NAME ..."},
