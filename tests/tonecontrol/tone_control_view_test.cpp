@@ -11,6 +11,11 @@ namespace r7 {
 
 namespace {
 
+struct Counter final : ActionTarget {
+    int calls = 0;
+    static void count(ActionTarget& target, View&) { ++static_cast<Counter&>(target).calls; }
+};
+
 template <typename V>
 void expect_plain_response(std::size_t points)
 {
@@ -33,7 +38,6 @@ void expect_plain_response(std::size_t points)
 TEST(ToneMapping, LaysDecadesAndDecibelsOverTheGraph)
 {
     ToneMapping mapping({30, 30, 600, 400});
-    EXPECT_NEAR(mapping.location_for_frequency(20050), 630, 1e-3);
     mapping.set_minimum_frequency(100);
     mapping.set_maximum_frequency(10000);
     mapping.set_amplitude_maximum_gain_in_db(20);
@@ -67,10 +71,11 @@ TEST(ToneViews, RedrawForEveryChangeAndForNothingElse)
         (*rig.view.*setter)(value);
         return rig.redraw_requested();
     };
-    for (const auto& [set, get, value] : kValues) {
-        EXPECT_FALSE(redraws(set, value));
-        EXPECT_TRUE(redraws(set, value / 2));
-        EXPECT_EQ((*rig.view.*get)(), value / 2);
+    for (std::size_t i = 0; i < kToneValues; ++i) {
+        const auto& [set, get] = kToneValueRows[i];
+        EXPECT_FALSE(redraws(set, kRigValues[i]));
+        EXPECT_TRUE(redraws(set, kRigValues[i] / 2));
+        EXPECT_EQ((*rig.view.*get)(), kRigValues[i] / 2);
     }
     EXPECT_TRUE(redraws(&Tone::setLevelMid, kNaN));
     EXPECT_FALSE(redraws(&Tone::setLevelMid, kNaN));
@@ -85,8 +90,10 @@ TEST(ToneDisplay, FillsItsCurveAndOpensTheEditorOnADoubleClickOnly)
     rig.view->setCurveColor_fill(nullptr, Color::device_rgba(1, 0.5, 0, 1));
     EXPECT_EQ(rig.drawn().words(), "fill 1,0.5,0,1 from 0,0") << "a curve colour is there from the start";
 
+    const auto owner = std::make_shared<Counter>();
+    rig.view->set_toggle_callback_onObject(&Counter::count, owner);
     for (const int clicks : {1, 2, 3, 4}) rig.view->mouseDown({.click_count = clicks});
-    EXPECT_EQ(rig.toggles->calls, 1);
+    EXPECT_EQ(owner->calls, 1);
 }
 
 } // namespace r7
