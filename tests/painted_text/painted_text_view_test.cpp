@@ -1,6 +1,7 @@
 // What the painted text takes, when it builds its image, and what can be seen of it.
 #include "tests/painted_text/painted_text_rig.h"
 
+#include <array>
 #include <cmath>
 #include <limits>
 
@@ -14,34 +15,30 @@ constexpr float kInfinity = std::numeric_limits<float>::infinity();
 
 TEST(PaintedText, CombinedSetterLeavesWhatIsOutOfItsRange)
 {
+    using Scales = std::array<float, 3>; // font size, height, shade
     const float below_300 = std::nextafter(300.0f, 0.0f), above_least = std::nextafter(0.001f, 1.0f);
-    const struct {
-        float size, height, shade;
-        float size_after, height_after, shade_after;
-    } cases[] = {
-        {20, 30, 40, 20, 30, 40},
-        {0, 0, 0, 9, 11, 18},
-        {-1, -1, -1, 9, 11, 18},
-        {4, 300, 200, 4, 11, 18},
-        {4, below_300, above_least, 4, below_300, above_least},
-        {4, 1e-20f, 0.001f, 4, 1e-20f, 18},
-        {kNaN, kNaN, kNaN, 9, 11, 18},
+    const std::pair<Scales, Scales> given_and_kept[] = {
+        {{20, 30, 40}, {20, 30, 40}},
+        {{0, 0, 0}, {9, 11, 18}},
+        {{-1, -1, -1}, {9, 11, 18}},
+        {{4, 300, 200}, {4, 11, 18}},
+        {{4, below_300, 199.5f}, {4, below_300, 199.5f}},
+        {{4, 1e-20f, 0.001f}, {4, 1e-20f, 18}},
+        {{4, 5, above_least}, {4, 5, above_least}},
+        {{kNaN, kNaN, kNaN}, {9, 11, 18}},
     };
-    for (const auto& c : cases) {
+    for (const auto& [given, kept] : given_and_kept) {
         PaintedTextRig rig;
-        const auto set = [&](std::optional<std::string_view> text, const ColorRef& color) {
-            rig.view->set_text_font_size_paint_color_height_scale_shade_scale(text, c.size, color, c.height,
-                                                                              c.shade);
-            EXPECT_EQ(rig.view->font_size(), c.size_after);
-            EXPECT_EQ(rig.view->height_field_scale(), c.height_after);
-            EXPECT_EQ(rig.view->shaded_image_scale(), c.shade_after);
-            EXPECT_FALSE(rig.redraw_requested().is_empty());
-        };
-        EXPECT_EQ(rig.view->paint_color(), (Rgba{0, 0, 1, 1}));
-        set("text", Color::device_rgba(0.1, 0.2, 0.3, 0.4));
-        set(std::nullopt, nullptr);
+        rig.view->set_text_string("text");
+        rig.redraw_requested();
+        rig.view->set_text_font_size_paint_color_height_scale_shade_scale(std::nullopt, given[0], nullptr,
+                                                                          given[1], given[2]);
+        EXPECT_EQ(
+            (Scales{rig.view->font_size(), rig.view->height_field_scale(), rig.view->shaded_image_scale()}),
+            kept);
         EXPECT_EQ(rig.view->text_string(), "text");
-        EXPECT_EQ(rig.view->paint_color(), (Rgba{0.1, 0.2, 0.3, 0.4}));
+        EXPECT_EQ(rig.view->paint_color(), (Rgba{0, 0, 1, 1}));
+        EXPECT_FALSE(rig.redraw_requested().is_empty());
     }
 }
 

@@ -1,4 +1,4 @@
-// What editor and display share: the mapping, the values, and a curve that is the plain response.
+// What editor and display share: the values and a curve that is the plain response.
 #include "tests/tonecontrol/plain_response_path.h"
 #include "tests/tonecontrol/tone_rig.h"
 
@@ -34,18 +34,6 @@ void expect_plain_response(std::size_t points)
 }
 
 } // namespace
-
-TEST(ToneMapping, LaysDecadesAndDecibelsOverTheGraph)
-{
-    ToneMapping mapping({30, 30, 600, 400});
-    mapping.set_minimum_frequency(100);
-    mapping.set_maximum_frequency(10000);
-    mapping.set_amplitude_maximum_gain_in_db(20);
-    EXPECT_NEAR(mapping.location_for_frequency(1000), 330, 1e-3);
-    EXPECT_NEAR(mapping.frequency_for_location(480), 3162.3, 0.1);
-    EXPECT_EQ(mapping.location_for_gain(-10), 130);
-    EXPECT_NEAR(mapping.gain_for_location(130), -10, 1e-5);
-}
 
 TEST(ToneViews, DrawThePlainResponseOfTheirFifteenValues)
 {
