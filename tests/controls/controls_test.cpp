@@ -8,18 +8,17 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <fstream>
 #include <limits>
+#include <optional>
 #include <set>
-#include <unistd.h>
 
 namespace r7 {
 
-// In the place of a back end: a file that begins with a number is an image of that width.
+// In the place of a back end: each picture that is read is a point wider than the one before, from 1 on.
 ImageRef Image::from_png_file(const std::filesystem::path& path)
 {
-    double width = 0.0;
-    return std::ifstream(path) >> width ? fake_image(width, 8) : nullptr;
+    static int pictures = 0;
+    return path.extension() == ".xml" ? nullptr : fake_image(++pictures, 8);
 }
 ImageRef Image::painted(Size size, const std::function<void(Graphics&)>&)
 {
@@ -122,30 +121,30 @@ TEST(ModeKnob, SelectionIsTheEntryAtTheValueRoundedDown)
 
 TEST(PushSwitch, PicturesFillItAndAreReplacedEachByItsOwnFile)
 {
-    const std::filesystem::path directory = testing::TempDir() + "r7-" + std::to_string(getpid());
-    std::filesystem::create_directories(directory);
-    for (const char* name : {"1", "2", "3", "4", "text"}) std::ofstream(directory / name) << name;
-    const char* const rows[][6] = {
-        // files for left, flat and right; shown with the left half held, at rest, and with the right half
-        // held
-        {"1", "2", "3", "1x8", "2x8", "3x8"},
-        {"missing", "missing", nullptr, "1x8", "2x8", "3x8"},
-        {"4", "text", nullptr, "4x8", "none", "3x8"},
+    const std::filesystem::path resources = R7_RESOURCES;
+    const std::optional picture = resources / "lightball.tiff", missing = resources / "missing.png",
+                        text = resources / "QmR7View.xml", none = std::optional<std::filesystem::path>();
+    const struct {
+        std::optional<std::filesystem::path> left, flat, right;
+        const char* shown[3]; // with the left half held, at rest, and with the right half held
+    } rows[] = {
+        {picture, picture, picture, {"1x8", "2x8", "3x8"}},
+        {missing, missing, none, {"1x8", "2x8", "3x8"}},
+        {picture, text, none, {"4x8", "none", "3x8"}},
         // A file for the right slot lets the left picture go, even if it is missing.
-        {nullptr, "2", "missing", "none", "2x8", "3x8"},
+        {none, picture, missing, {"none", "5x8", "3x8"}},
     };
     Rig<QmR7PushModeKnobView> rig;
     rig.control->set_frame({30, 20, 400, 80}); // the halves stay those of the first frame
-    const auto path = [&](const char* name) { return name ? std::optional(directory / name) : std::nullopt; };
     for (const auto& row : rows) {
-        rig.control->set_image_urls_left_flat_right(path(row[0]), path(row[1]), path(row[2]));
+        rig.control->set_image_urls_left_flat_right(row.left, row.flat, row.right);
         for (const int i : {0, 1, 2}) {
             const MouseEvent press{.location_in_window = {40.0 + 40 * i, i == 1 ? 0.0 : 50.0}};
             EXPECT_TRUE(rig.redraws([&](View& view) { view.mouseDown(press); }));
-            EXPECT_EQ(rig.drawn(), std::string("draw_image_in_rect ") + row[3 + i] + " in 0,0,400,80 over 1");
+            EXPECT_EQ(rig.drawn(),
+                      std::string("draw_image_in_rect ") + row.shown[i] + " in 0,0,400,80 over 1");
         }
     }
-    std::filesystem::remove_all(directory);
 }
 
 TEST(Light, StatesThreeToFiveNeedTheSecondImage)
@@ -182,10 +181,9 @@ TEST(Light, StatesThreeToFiveNeedTheSecondImage)
 
 TEST(RoundTarget, HasACursorForEachOfElevenStepsOfItsArc)
 {
-    constexpr float kInfinity = std::numeric_limits<float>::infinity();
     // Where the steps begin, and where their arcs end, in degrees.
-    constexpr float kFrom[] = {-kInfinity, 0.05f, 0.15f, 0.25f, 0.35f, 0.45f,
-                               0.55f,      0.65f, 0.75f, 0.85f, 0.95f, kInfinity};
+    constexpr float kFrom[] = {-1e30f, 0.05f, 0.15f, 0.25f, 0.35f, 0.45f,
+                               0.55f,  0.65f, 0.75f, 0.85f, 0.95f, 1e30f};
     constexpr double kEnds[] = {270, 234, 198, 162, 126, 450, 90, 54, 18, 324, 271};
     std::set<CursorRef> cursors{QM_R7_Cursors::round_target_cursor(),
                                 QM_R7_Cursors::round_target_cursor_at_fraction(static_cast<float>(kNaN))};
