@@ -155,23 +155,18 @@ TEST(WaveShaperEditor, PaintsInOrderWhatLiesWhereItIsHit)
     EditorRig rig;
     rig.view.set_color_points_control_points(nullptr, nullptr);
     const auto spot = [](std::string color, std::string width, std::string from) {
-        return "stroke " + color + " width " + width + " from " + from + "; fill " + color + " from " + from +
-               "; fill 1,1,1,0.4 from " + from;
+        return "; stroke " + color + " width " + width + " from " + from + "; fill " + color + " from " +
+               from + "; fill 1,1,1,0.4 from " + from;
     };
-    const std::string expected = "stroke 0.75,0.75,0.75,0.5 width 2 from 5,105; "
-                                 "clip_to 5,5,400,400; "
-                                 "fill_rect 0,0,0,0.6 in 5,5,400,400 over; "
-                                 "draw_image 30x0 at 370,15 over 1; "
-                                 "draw_image 30x3 at 370,75 over 1; "
-                                 "draw_image 30x1 at 370,45 over 1; "
-                                 "fill 1,0,0,0.35 from -109.159271,205.000015; "
-                                 "fill 0,0,1,0.35 from -109.159271,205.000015; "
-                                 "fill 0,1,0,0.35 from -109.159271,205; "
-                                 "stroke 0,0,1,1 width 2.5 from 205,205; "
-                                 "stroke 1,1,1,0.5 width 0.5 from 205,205; "
-                                 "stroke 1,1,0,1 width 0.5 from 205,205; " +
-                                 spot("1,1,0,1", "1", "224.166672,221.666672") + "; " +
-                                 spot("1,0,0,1", "1", "307.5,305") + "; " + spot("0,0,1,1", "2", "207.5,205");
+    const std::string expected =
+        "stroke 0.75,0.75,0.75,0.5 width 2 from 5,105; clip_to 5,5,400,400; "
+        "fill_rect 0,0,0,0.6 in 5,5,400,400 over; draw_image 30x0 at 370,15 over 1; "
+        "draw_image 30x3 at 370,75 over 1; draw_image 30x1 at 370,45 over 1; "
+        "fill 1,0,0,0.35 from -109.159271,205.000015; fill 0,0,1,0.35 from -109.159271,205.000015; "
+        "fill 0,1,0,0.35 from -109.159271,205; stroke 0,0,1,1 width 2.5 from 205,205; "
+        "stroke 1,1,1,0.5 width 0.5 from 205,205; stroke 1,1,0,1 width 0.5 from 205,205" +
+        spot("1,1,0,1", "1", "224.166672,221.666672") + spot("1,0,0,1", "1", "307.5,305") +
+        spot("0,0,1,1", "2", "207.5,205");
     EXPECT_EQ(Painting(rig.view).words(), expected);
     rig.view.make_db_scale();
     EXPECT_EQ(Painting(rig.view).call(5).words, "draw_image 30x2 at 370,45 over 1");
