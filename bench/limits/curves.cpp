@@ -2,7 +2,7 @@
 #include "bench/limits/limits.h"
 
 #include "tests/tonecontrol_model/random_tones.h"
-#include "tests/waveshaper_model/compare_sine_response.h"
+#include "tests/waveshaper_model/plain_sine_response.h"
 
 namespace r7::bench {
 

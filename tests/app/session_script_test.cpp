@@ -1,42 +1,13 @@
-// The grammar of sessions: what is read, and what is refused with which words.
+// What no session may hold, and which words refuse it. The sessions themselves are what is read.
 #include "app/session_script.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <limits>
 #include <random>
 
 namespace r7 {
 namespace {
-
-/// The last command of a text.
-template <typename Command>
-Command last_of(std::string_view text)
-{
-    const auto script = read_script(text);
-    if (const auto* error = std::get_if<ScriptError>(&script)) throw std::runtime_error(error->what);
-    return std::get<Command>(std::get<Script>(script).back().command);
-}
-
-TEST(SessionScript, ReadsOptionalWordsAndNumbersInTheirOwnPrecision)
-{
-    const auto plain = last_of<session::Press>("press delay_depth_knob");
-    EXPECT_EQ(plain.view->name, "delay_depth_knob");
-    EXPECT_FALSE(plain.at);
-    EXPECT_EQ(plain.clicks, 1);
-    EXPECT_EQ(plain.button, MouseButton::primary);
-    const auto full = last_of<session::Press>("press envelope_mode at 3.5 -inf clicks 2 right");
-    EXPECT_EQ(full.at, (Point{3.5, -std::numeric_limits<double>::infinity()}));
-    EXPECT_EQ(full.clicks, 2);
-    EXPECT_EQ(full.button, MouseButton::secondary);
-    const auto drag = last_of<session::Drag>("press output_level\ndrag 0.1 -15 control shift option\n");
-    EXPECT_EQ(drag.delta_x, 0.1);
-    EXPECT_EQ(drag.modifiers, Modifiers::control | Modifiers::shift | Modifiers::option);
-    EXPECT_EQ(last_of<session::UnitParameter>("unit parameter 53 0.1").value, 0.1F);
-    EXPECT_EQ(last_of<session::UnitLevel>("unit level 2 0.1").value, 0.1);
-    EXPECT_EQ(last_of<session::UnitEvent>("unit event 1 4294967295").id, 4294967295U);
-}
 
 TEST(SessionScript, SaysWhatIsWrong)
 {
@@ -44,9 +15,8 @@ TEST(SessionScript, SaysWhatIsWrong)
     const struct {
         std::string text, what;
     } cases[] = {
-        {"turn output_level", R"(there is no command "turn")"},
-        {"unit curves 1", R"(there is no command "unit curves")"},
         {"Press output_level", R"(there is no command "Press")"},
+        {"unit curves 1", R"(there is no command "unit curves")"},
         {"press", "a word is missing: " + form},
         {"press output_level right at 1 2", R"("at" is a word too many: )" + form},
         {"show", "a word is missing: show NAME ..."},

@@ -1,108 +1,102 @@
-// What the painted text does with its OpenGL context, call by call.
+// What the painted text does with its OpenGL context that no picture shows.
+#include "platform/cairo/image_pixels.h"
+#include "platform/gl_state.h"
 #include "tests/painted_text/painted_text_rig.h"
-#include "tests/painted_text/recording_gl_state.h"
 
 namespace r7 {
 namespace {
 
-constexpr char kPrepared[] =
-    "current; swap 1; opacity 0; disable alpha; disable depth; disable scissor; disable blend; disable "
-    "dither; "
-    "disable cull; color mask 1111; depth mask 0; stencil mask 0; clear color 0000; fastest transform; ";
-
-template <typename PaintedText = QmR7PaintedTextView>
-struct GLRig {
-    GLScript script;
-    int openings = 0;
-    PaintedTextRig<PaintedText> rig{{100, 40}, [this](const GLPixelFormat& format) {
-                                        ++openings;
-                                        EXPECT_TRUE(format.accelerated && format.no_recovery);
-                                        EXPECT_EQ(format.color_size, 32);
-                                        return std::make_unique<RecordingGLState>(script);
-                                    }};
-    std::string painted; // by the last draw
-
-    std::string calls_of_draw(const Rect& dirty)
-    {
-        RecordingGraphics graphics;
-        rig.view->drawRect(graphics, dirty);
-        painted = graphics.words();
-        return std::exchange(script.calls, {});
-    }
+/// What the context does, and what has been done with it.
+struct GLScript {
+    bool can_be_current, can_be_updated;
+    std::string calls{}; ///< each with "; " behind it
+    int contexts = 0;    ///< that are open
 };
 
-TEST(PaintedTextGL, DrawsInTheOrderOfItsSteps)
-{
-    GLRig gl;
-    gl.rig.view->set_text_string("text");
-    EXPECT_EQ(gl.openings, 0) << "before anything is drawn";
-    EXPECT_EQ(gl.calls_of_draw({0, 0, 100, 40}).substr(sizeof kPrepared - 1),
-              "update 100x40; viewport 0,0,100,40; ortho 0 100 0 40 -1 1; model view; scissor 0,0,100,40; "
-              "enable scissor; clear; draw 100x40 at 0,0 from 0,0,100,40; disable scissor; flush; "
-              "read 0,0,100,40; resign; ");
-    EXPECT_EQ(gl.painted, "draw_image 100x40 at 0,0 over 1");
-    // A part is rounded outward; what is drawn is one point larger, but not larger than the view.
-    EXPECT_EQ(gl.calls_of_draw({10.5, 20, 4, 19.75}),
-              "current; scissor 10,20,5,20; enable scissor; clear; draw 100x40 at 9,19 from 9,19,7,21; "
-              "disable scissor; flush; read 10,20,5,20; resign; ");
-    EXPECT_EQ(gl.painted, "draw_image 5x20 at 10,20 over 1");
-    gl.rig.view->set_frame({0, 0, 50.5, 20});
-    EXPECT_EQ(
-        gl.calls_of_draw({0, 0, 1, 1}),
-        "current; update 51x20; viewport 0,0,51,20; ortho 0 50.5 0 20 -1 1; model view; scissor 0,0,1,1; "
-        "enable scissor; clear; draw 100x40 at 0,0 from 0,0,2,2; disable scissor; flush; read 0,0,1,1; "
-        "resign; ");
-    gl.rig.view->setImage(Image::painted({5, 5}, [](Graphics&) {}));
-    EXPECT_NE(gl.calls_of_draw({2, 2, 9, 9}).find("draw 5x5 at 1,1 from 1,1,4,4; "), std::string::npos);
-    gl.rig.view->setImage(nullptr);
-    EXPECT_EQ(gl.calls_of_draw({2, 2, 9, 9}).find("draw"), std::string::npos);
-    EXPECT_EQ(gl.openings, 1);
-}
+class RecordingGLState final : public GLState {
+public:
+    explicit RecordingGLState(GLScript& script) : script_(script) { ++script_.contexts; }
+    ~RecordingGLState() override { --script_.contexts; }
 
-struct SelfDrawingView final : QmR7PaintedTextView {
-    using QmR7PaintedTextView::QmR7PaintedTextView;
-    std::vector<Rect> rects;
-    bool drawRect_inCIContext(const Rect& rect, ImageContext&) override
+    bool make_current() override { return add("current"), script_.can_be_current; }
+    void resign_current() override { add("resign"); }
+    void set_swap_interval(int refreshes) override { add("swap " + text_of(refreshes)); }
+    void set_surface_opacity(int opacity) override { add("opacity " + text_of(opacity)); }
+    bool update(int width, int height) override
     {
-        return rects.push_back(rect), true;
+        add("update " + text_of(width) + "x" + text_of(height));
+        return script_.can_be_updated;
     }
+    void flush() override { add("flush"); }
+    ImagePixels read_pixels(const Rect& part) override
+    {
+        const int w = static_cast<int>(part.width), h = static_cast<int>(part.height);
+        add("read " + text_of(w) + "x" + text_of(h));
+        return {w, h, std::vector<std::uint8_t>(static_cast<std::size_t>(4 * w * h))};
+    }
+
+    // The picture shows what these do.
+    void enable(GLCapability) override {}
+    void disable(GLCapability) override {}
+    void set_color_mask(bool, bool, bool, bool) override {}
+    void set_depth_mask(bool) override {}
+    void set_stencil_mask(unsigned) override {}
+    void set_clear_color(float, float, float, float) override {}
+    void hint_fastest_transform() override {}
+    void set_viewport(const Rect&) override {}
+    void load_orthographic_projection(double, double, double, double, double, double) override {}
+    void reset_model_view() override {}
+    void set_scissor(const Rect&) override {}
+    void clear_color_buffer() override {}
+    void draw_pixels(const ImagePixels&, Point, const Rect&) override {}
+
+private:
+    void add(const std::string& call) { script_.calls += call + "; "; }
+
+    GLScript& script_;
 };
 
-TEST(PaintedTextGL, LetsAClassOfItsOwnDraw)
+// In a window, and where it paints the image alone: outside of any, and where the context fails or the bounds
+// are none for it, which is then given up.
+TEST(PaintedTextGL, OpensItsContextOnceAndGivesUpOneThatFails)
 {
-    GLRig<SelfDrawingView> gl;
-    gl.calls_of_draw({0, 0, 100, 40});
-    EXPECT_EQ(gl.calls_of_draw({5, 5, 1, 1}), "current; scissor 5,5,1,1; enable scissor; clear; "
-                                              "disable scissor; flush; read 5,5,1,1; resign; ");
-    gl.rig.view->remove_from_superview();
-    EXPECT_EQ(gl.calls_of_draw({5, 5, 1, 1}), "current; resign; ");
-    EXPECT_EQ(gl.painted, "");
-    EXPECT_EQ(gl.rig.view->rects, (std::vector<Rect>{{0, 0, 100, 40}, {4, 4, 3, 3}, {5, 5, 1, 1}}));
-}
-
-// Outside of any window, and where the context fails, which is then given up.
-TEST(PaintedTextGL, PaintsTheImageAloneWhereItDoesNotDraw)
-{
+    const std::string prepared = "current; swap 1; opacity 0; ", unused = prepared + "resign; ";
+    const char* const by_opengl = "draw_image 4x4 at 1,2 over 1";
+    const char* const alone = "save; clip_to 1,2,4,4; draw_image 100x40 at 0,0 over 1; restore";
+    const char* const none = "save; clip_to 1,2,4,4; draw_image none at 0,0 over 1; restore";
     const struct {
+        double width;
         bool in_window, can_be_current, can_be_updated;
         std::string first_draw, later_draws;
+        const char* painted;
+        int contexts_kept;
     } cases[] = {
-        {false, true, true, std::string(kPrepared) + "resign; ", "current; resign; "},
-        {true, false, true, "current; ", ""},
-        {true, true, false, std::string(kPrepared) + "update 100x40; resign; ", ""},
+        {100, true, true, true, prepared + "update 100x40; flush; read 4x4; resign; ",
+         "current; flush; read 4x4; resign; ", by_opengl, 1},
+        {100, false, true, true, unused, "current; resign; ", alone, 1},
+        {100, true, false, true, "current; ", "", alone, 0},
+        {100, true, true, false, prepared + "update 100x40; resign; ", "", alone, 0},
+        {4097, true, true, true, unused, "", none, 0},
     };
     for (const auto& c : cases) {
-        GLRig gl;
-        if (!c.in_window) gl.rig.view->remove_from_superview();
-        gl.script.can_be_current = c.can_be_current;
-        gl.script.can_be_updated = c.can_be_updated;
-        gl.rig.view->set_text_string("text");
-        for (const std::string& calls : {c.first_draw, c.later_draws}) {
-            EXPECT_EQ(gl.calls_of_draw({1.5, 2, 3, 4}), calls);
-            EXPECT_EQ(gl.painted, "save; clip_to 1,2,4,4; draw_image 100x40 at 0,0 over 1; restore");
+        GLScript script{c.can_be_current, c.can_be_updated};
+        int openings = 0;
+        PaintedTextRig rig({c.width, 40}, [&](const GLPixelFormat& format) {
+            ++openings;
+            EXPECT_TRUE(format.accelerated && format.no_recovery && format.color_size == 32);
+            return std::make_unique<RecordingGLState>(script);
+        });
+        if (!c.in_window) rig.view->remove_from_superview();
+        rig.view->set_text_string("text");
+        EXPECT_EQ(openings, 0) << "before anything is drawn";
+        for (const std::string& calls : {c.first_draw, c.later_draws, c.later_draws}) {
+            RecordingGraphics graphics;
+            rig.view->drawRect(graphics, {1.5, 2, 3, 4});
+            EXPECT_EQ(std::exchange(script.calls, {}), calls);
+            EXPECT_EQ(graphics.words(), c.painted);
         }
-        EXPECT_EQ(gl.openings, 1);
-        EXPECT_EQ(gl.script.contexts, c.in_window ? 0 : 1);
+        EXPECT_EQ(openings, 1);
+        EXPECT_EQ(script.contexts, c.contexts_kept);
     }
 }
 

@@ -19,16 +19,17 @@ bool is_loaded(const char* library)
 
 struct WatchedView final : QmR7PaintedTextView {
     using QmR7PaintedTextView::QmR7PaintedTextView;
-    int draws_by_opengl = 0;
+    std::vector<Rect> drawn_by_opengl;
+    bool draws_itself = false;
 
     // With the context current; its errors are those of the draws before, too.
-    bool drawRect_inCIContext(const Rect&, ImageContext&) override
+    bool drawRect_inCIContext(const Rect& rect, ImageContext&) override
     {
         void* const function = dlsym(dlopen("libEGL.so.1", RTLD_NOW), "eglGetProcAddress");
         void* const get_error = reinterpret_cast<void* (*)(const char*)>(function)("glGetError");
         EXPECT_EQ(reinterpret_cast<unsigned (*)()>(get_error)(), 0u);
-        ++draws_by_opengl;
-        return false;
+        drawn_by_opengl.push_back(rect);
+        return draws_itself;
     }
 };
 
@@ -57,13 +58,24 @@ TEST(PaintedTextOpenGL, GivesThePictureOfTheImageAndIsLoadedLate)
     const std::vector<std::uint32_t> drawn = painted(rig);
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
     const bool has_driver = !std::getenv("__EGL_VENDOR_LIBRARY_FILENAMES");
-    EXPECT_EQ(rig.view->draws_by_opengl, has_driver ? 3 : 0);
     // The rounding of colours is OpenGL's own affair.
     for (std::size_t i = 0; i < expected.size(); ++i)
         for (const int shift : {0, 8, 16, 24})
             ASSERT_NEAR(static_cast<double>(drawn[i] >> shift & 0xFF),
                         static_cast<double>(expected[i] >> shift & 0xFF), 1.0)
                 << "pixel " << i;
+
+    rig.view->draws_itself = true;
+    rig.view->set_needs_display();
+    EXPECT_EQ(rig.shows_something(), !has_driver) << "leaves all to the view's class";
+    rig.view->remove_from_superview();
+    RecordingGraphics graphics;
+    rig.view->drawRect(graphics, {5, 5, 1, 1});
+    EXPECT_EQ(graphics.calls.empty(), has_driver);
+    // A part in the window is one point larger all around, but not larger than the view.
+    const Rect all = rig.view->bounds();
+    const std::vector<Rect> rects{all, all, {59, 26, 63, 20}, all, {5, 5, 1, 1}};
+    EXPECT_EQ(rig.view->drawn_by_opengl, has_driver ? rects : std::vector<Rect>{});
 }
 
 } // namespace

@@ -30,12 +30,8 @@ struct PaintedTextRig {
         screen.window().set_content_view(root);
     }
 
-    /// What was to be redrawn since the last question.
-    Rect redraw_requested()
-    {
-        const DirtyRegion dirty = screen.window().take_dirty_region();
-        return dirty.is_empty() ? Rect{} : dirty.rects()[0];
-    }
+    /// Whether anything was to be redrawn since the last question.
+    bool redraw_requested() { return !screen.window().take_dirty_region().is_empty(); }
 
     /// The window's pixels as premultiplied ARGB, after everything that was asked to be redrawn.
     std::span<const std::uint32_t> pixels()

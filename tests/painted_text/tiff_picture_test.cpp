@@ -3,16 +3,26 @@
 
 #include "controls/pixel_planes.h"
 #include "resources/art/lightball.h"
-#include "tests/painted_text/scratch_file.h"
 
+#include <gtest/gtest.h>
 #include <tiffio.h>
+#include <unistd.h>
 
+#include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <random>
 
 namespace r7 {
 namespace {
 
 constexpr const char* kLightball = R7_RESOURCES "/lightball.tiff";
+
+/// The place of a file for one test, which is removed at the end.
+struct ScratchFile {
+    ~ScratchFile() { std::filesystem::remove(path); }
+    const std::filesystem::path path = testing::TempDir() + "r7-" + std::to_string(::getpid()) + ".tiff";
+};
 
 TEST(TiffPicture, OfTheLightballIsTheBallThatIsDrawn)
 {
@@ -33,15 +43,16 @@ TEST(TiffPicture, OfAnUnusableFileIsNoneAndSilent)
     static int reports = 0;
     const auto count = [](const char*, const char*, va_list) { ++reports; };
     const TIFFErrorHandler errors = TIFFSetErrorHandler(count), warnings = TIFFSetWarningHandler(count);
-    const ScratchFile file("picture.tiff");
+    const ScratchFile file;
     EXPECT_FALSE(read_tiff(file.path)) << "missing";
-    EXPECT_FALSE(read_tiff(file.folder)) << "a folder";
+    EXPECT_FALSE(read_tiff(file.path.parent_path())) << "a folder";
 
     const auto is_readable = [&](const std::string& bytes) {
-        file.write(bytes);
+        std::ofstream(file.path, std::ios::binary) << bytes;
         return read_tiff(file.path).has_value();
     };
-    std::string bytes = bytes_of(kLightball);
+    std::ifstream ball(kLightball, std::ios::binary);
+    std::string bytes{std::istreambuf_iterator<char>(ball), {}};
     EXPECT_TRUE(is_readable(bytes));
     for (std::size_t length = 0; length < bytes.size(); length += 37)
         EXPECT_FALSE(is_readable(bytes.substr(0, length))) << length;
@@ -58,7 +69,7 @@ TEST(TiffPicture, OfAnUnusableFileIsNoneAndSilent)
 
 TEST(TiffPicture, OfMoreThanTheMostPixelsASideIsRefused)
 {
-    const ScratchFile file("large.tiff");
+    const ScratchFile file;
     for (const auto& [width, height] : {std::pair{4096, 1}, {4097, 1}, {1, 4096}, {1, 4097}}) {
         TIFF* const tiff = TIFFOpen(file.path.c_str(), "w");
         TIFFSetField(tiff, TIFFTAG_IMAGEWIDTH, width);

@@ -1,4 +1,4 @@
-// The editor: its handles in the user's hands, and how it is painted.
+// How the editor is painted; the sessions play its gestures.
 #include "tests/tonecontrol/tone_rig.h"
 
 #include <gtest/gtest.h>
@@ -16,11 +16,6 @@ std::vector<std::set<std::string>> pictures;
 
 const auto kWhite = Color::device_white(1, 1);
 
-struct EditorRig : ToneRig<Editor> {
-    Point center(ToneBand band) { return {view->handle(band).x + 12, view->handle(band).y + 12}; }
-    void press(Point at) { view->mouseDown({.location_in_window = at}); }
-};
-
 } // namespace
 
 // In the place of a drawing back end.
@@ -35,7 +30,7 @@ ImageRef Image::painted(Size size, const std::function<void(Graphics&)>& paint)
 
 TEST(ToneEditor, TheOwnersColoursOnlyChooseTheScheme)
 {
-    EditorRig rig;
+    ToneRig<Editor> rig;
     rig.view->awakeFromNib();
     const std::string from = " from " + text_of(rig.view->handle(kToneLow).right()) + ",260";
     const std::string below =
@@ -58,21 +53,21 @@ TEST(ToneEditor, AnArcRunsClockwiseFromBelowAndIsNeverMoreThanARing)
         std::size_t quarters;
         Point end;
     } cases[] = {{0.25f, 1, {-7, 0}}, {0.5f, 2, {0, 7}}, {1, 4, {0, -7}}, {-std::log(0.0f), 4, {0, -7}}};
-    EditorRig rig;
+    ToneRig<Editor> rig;
     rig.view->setCurveColor_fill(kWhite, kWhite);
     for (const auto& [width, quarters, end] : cases) {
         rig.view->setSlopeHigh(width);
         const Path& arcs = rig.drawn().calls.back().path;
-        const Point center = rig.center(kToneHigh);
-        EXPECT_NEAR(arcs.current_point().x, center.x + end.x, 1e-9) << width;
-        EXPECT_NEAR(arcs.current_point().y, center.y + end.y, 1e-9) << width;
+        const Point corner = rig.view->handle(kToneHigh).origin(); // of 24 points a side
+        EXPECT_NEAR(arcs.current_point().x, corner.x + 12 + end.x, 1e-9) << width;
+        EXPECT_NEAR(arcs.current_point().y, corner.y + 12 + end.y, 1e-9) << width;
         EXPECT_EQ(arcs.elements().size(), kStarts + kOtherQuarters + quarters) << width;
     }
 }
 
 TEST(ToneEditor, LabelsStandWhereItsOwnRangePutsThem)
 {
-    EditorRig rig;
+    ToneRig<Editor> rig;
     rig.view->set_maximum_frequency(22050);
     rig.view->awakeFromNib();
     const auto& labels = pictures.back();

@@ -10,16 +10,6 @@
 
 namespace r7 {
 
-/// Designs the bands from the values that ToneRig gives its view.
-inline void design_rig_values(Qm_ObjectiveToneControl& model)
-{
-    model.setBassFrequency_dbGain_slope(137, 6, 0.6f);
-    model.setLowMidFrequency_dbGain_Q(411, -9, 0.75f);
-    model.setMidFrequency_dbGain_Q(1234, 11, 0.3f);
-    model.setHighMidFrequency_dbGain_Q(3456, -4, 0.9f);
-    model.setTrebleFrequency_dbGain_slope(7890, 3, 0.5f);
-}
-
 /// Rebuilds `path` with so many points of the curve, each asked of the model.
 inline void plain_response_path(const Qm_ObjectiveToneControl& model, const ToneMapping& mapping,
                                 std::size_t points, Path& path)

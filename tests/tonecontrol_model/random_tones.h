@@ -2,6 +2,7 @@
 #pragma once
 
 #include "tests/support/vertex_count.h"
+#include "tests/tonecontrol_model/tone_designs.h"
 #include "tonecontrol/response_curve.h"
 
 #include <cmath>
@@ -24,12 +25,6 @@ public:
     /// Goes on to the next. True where its grid is another, too.
     bool next()
     {
-        using Model = Qm_ObjectiveToneControl;
-        constexpr void (Model::*kSetters[])(float, float, float) = {
-            &Model::setBassFrequency_dbGain_slope,   &Model::setLowMidFrequency_dbGain_Q,
-            &Model::setMidFrequency_dbGain_Q,        &Model::setHighMidFrequency_dbGain_Q,
-            &Model::setTrebleFrequency_dbGain_slope,
-        };
         const int step = step_++;
         const bool new_grid = step % 40 == 0;
         if (new_grid) {
@@ -37,10 +32,10 @@ public:
             for (float& hz : grid_) hz = frequency();
         }
         const bool new_model = step % 20 == 0; // or one NaN would stay for ever
-        if (new_model) model_ = Model();
+        if (new_model) model_ = {};
         if (below(30) == 0) model_.set_sample_rate(below(4) ? value(8000, 200000) : stray());
         for (int changes = new_model ? 12 : 1; changes > 0; --changes)
-            (model_.*kSetters[below(5)])(frequency(), value(-60, 60), value(0.001f, 1.5f));
+            (model_.*kToneDesigns[below(kToneBands)])(frequency(), value(-60, 60), value(0.001f, 1.5f));
         return new_grid;
     }
 

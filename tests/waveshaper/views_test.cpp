@@ -28,8 +28,6 @@ namespace {
 using enum CurvePoint;
 using Display = QM_BezierWaveShaperResponseView;
 
-constexpr Point kCloseButton{375, 20}, kLinearButton{375, 80};
-
 /// The view brought up to date and painted, as its window would.
 struct Painting {
     RecordingGraphics graphics;
@@ -72,7 +70,6 @@ struct EditorRig {
     }
     Point place(CurvePoint which) const { return view.position_for_amplitudes(amplitudes(which)); }
     void press(Point at) { view.mouseDown({.location_in_window = {at.x + 20, at.y + 30}}); }
-    void drag(double dx, double dy) { view.mouseDragged({.delta_x = dx, .delta_y = dy}); }
     /// A digit for each point that is picked, the zero point's first.
     std::string picks() const
     {
@@ -97,7 +94,7 @@ TEST(WaveShaperViews, AllocateNothingAfterTheirCreation)
     const std::size_t before = allocations();
     for (int round = 0; round < 50; ++round) {
         rig.press(rig.place(positive_mid_c1_point));
-        rig.drag(round, 3 * round - 75);
+        rig.view.mouseDragged({.delta_x = 1.0 * round, .delta_y = 3.0 * round - 75.0});
         rig.view.make_db_scale();
         rig.view.set_sine_pregain(static_cast<float>(round));
         rig.view.export_sequence_data(record);
@@ -115,23 +112,26 @@ TEST(WaveShaperViews, AllocateNothingAfterTheirCreation)
     EXPECT_EQ(allocations(), labelled) << "a label that was shown is kept";
 }
 
-TEST(WaveShaperEditor, PicksThePointInWhoseSquareThePressLies)
+TEST(WaveShaperEditor, IsPressedAtItsPointsAndElseAtItsButtons)
 {
     const struct {
-        CurvePoint point;
-        double dx, dy;
+        Point end, at; // where the end point is, in amplitudes, and where the press is
         const char* picked;
+        int toggles;
     } kRows[] = {
-        {positive_mid_c1_point, 0, 0, "0100000"}, {positive_mid_c2_point, 2.4, -2.4, "0010000"},
-        {positive_end_c1_point, 0, 0, "0000100"}, {positive_end_point, -2.5, -2.5, "0000001"},
-        {positive_end_point, 2.5, 0, "0000000"},  {positive_end_point, 0, 2.5, "0000000"},
-        {positive_end_point, -2.6, 0, "0000000"}, {zero_point, 0, 0, "0000000"},
+        {{1, 0}, {302.5, 202.5}, "0000001", 0}, {{1, 0}, {307.5, 205}, "0000000", 0},
+        {{1, 0}, {305, 207.5}, "0000000", 0},   {{1, 0}, {205, 205}, "0000000", 0}, // the zero point
+        {{1, 0}, {370, 15}, "0000000", 1},      {{1, 0}, {400, 15}, "0000000", 0},
+        {{1, 0}, {370, 35}, "0000000", 0},      {{1.7, -1.8}, {375, 25}, "0000001", 0},
     };
     for (const auto& row : kRows) {
         EditorRig rig;
-        const Point place = rig.place(row.point);
-        rig.press({place.x + row.dx, place.y + row.dy});
-        EXPECT_EQ(rig.picks(), row.picked);
+        rig.move(positive_end_point, static_cast<float>(row.end.x), static_cast<float>(row.end.y));
+        rig.press(row.at);
+        EXPECT_EQ(rig.picks(), row.picked) << row.at.x;
+        EXPECT_EQ(rig.owner->told, row.toggles) << row.at.x;
+        // Whoever is asked to close the editor finds the coefficients computed.
+        EXPECT_NEAR(rig.view.curve().coefficients().pos_M, row.toggles ? -5 : 1, 1e-5);
     }
 }
 
@@ -144,27 +144,9 @@ TEST(WaveShaperEditor, LandsAllPickedPointsOnOneTargetAndTellsOfEach)
         for (const CurvePoint point : kPoints) rig.move(point, 0, 0.5F);
     rig.press(rig.place(positive_mid_c1_point));
     ASSERT_EQ(rig.picks(), "0110101");
-    rig.drag(0, -10);
+    rig.view.mouseDragged({.delta_y = -10});
     for (const CurvePoint point : kPoints) EXPECT_EQ(rig.amplitudes(point).y, static_cast<double>(0.6F));
     EXPECT_EQ(rig.owner->told, 4);
-}
-
-TEST(WaveShaperEditor, PressesItsButtonsBesideAllPoints)
-{
-    for (const auto& [at, toggles] :
-         {std::pair{kCloseButton, 1}, {Point{370, 15}, 1}, {Point{400, 15}, 0}, {Point{370, 35}, 0}}) {
-        EditorRig rig;
-        rig.move(positive_end_point, 1, 0);
-        rig.press(at);
-        EXPECT_EQ(rig.owner->told, toggles);
-        // Whoever is asked to close the editor finds the coefficients computed.
-        EXPECT_NEAR(rig.view.curve().coefficients().pos_M, toggles ? -5 : 1, 1e-5);
-    }
-    EditorRig rig;
-    rig.move(positive_end_point, 1.7F, -1.25F);
-    rig.press(kLinearButton);
-    EXPECT_EQ(rig.picks(), "0000001") << "the point lies over the button";
-    EXPECT_EQ(rig.owner->told, 0);
 }
 
 TEST(WaveShaperEditor, PaintsInOrderWhatLiesWhereItIsHit)
@@ -173,23 +155,18 @@ TEST(WaveShaperEditor, PaintsInOrderWhatLiesWhereItIsHit)
     EditorRig rig;
     rig.view.set_color_points_control_points(nullptr, nullptr);
     const auto spot = [](std::string color, std::string width, std::string from) {
-        return "stroke " + color + " width " + width + " from " + from + "; fill " + color + " from " + from +
-               "; fill 1,1,1,0.4 from " + from;
+        return "; stroke " + color + " width " + width + " from " + from + "; fill " + color + " from " +
+               from + "; fill 1,1,1,0.4 from " + from;
     };
-    const std::string expected = "stroke 0.75,0.75,0.75,0.5 width 2 from 5,105; "
-                                 "clip_to 5,5,400,400; "
-                                 "fill_rect 0,0,0,0.6 in 5,5,400,400 over; "
-                                 "draw_image 30x0 at 370,15 over 1; "
-                                 "draw_image 30x3 at 370,75 over 1; "
-                                 "draw_image 30x1 at 370,45 over 1; "
-                                 "fill 1,0,0,0.35 from -109.159271,205.000015; "
-                                 "fill 0,0,1,0.35 from -109.159271,205.000015; "
-                                 "fill 0,1,0,0.35 from -109.159271,205; "
-                                 "stroke 0,0,1,1 width 2.5 from 205,205; "
-                                 "stroke 1,1,1,0.5 width 0.5 from 205,205; "
-                                 "stroke 1,1,0,1 width 0.5 from 205,205; " +
-                                 spot("1,1,0,1", "1", "224.166672,221.666672") + "; " +
-                                 spot("1,0,0,1", "1", "307.5,305") + "; " + spot("0,0,1,1", "2", "207.5,205");
+    const std::string expected =
+        "stroke 0.75,0.75,0.75,0.5 width 2 from 5,105; clip_to 5,5,400,400; "
+        "fill_rect 0,0,0,0.6 in 5,5,400,400 over; draw_image 30x0 at 370,15 over 1; "
+        "draw_image 30x3 at 370,75 over 1; draw_image 30x1 at 370,45 over 1; "
+        "fill 1,0,0,0.35 from -109.159271,205.000015; fill 0,0,1,0.35 from -109.159271,205.000015; "
+        "fill 0,1,0,0.35 from -109.159271,205; stroke 0,0,1,1 width 2.5 from 205,205; "
+        "stroke 1,1,1,0.5 width 0.5 from 205,205; stroke 1,1,0,1 width 0.5 from 205,205" +
+        spot("1,1,0,1", "1", "224.166672,221.666672") + spot("1,0,0,1", "1", "307.5,305") +
+        spot("0,0,1,1", "2", "207.5,205");
     EXPECT_EQ(Painting(rig.view).words(), expected);
     rig.view.make_db_scale();
     EXPECT_EQ(Painting(rig.view).call(5).words, "draw_image 30x2 at 370,45 over 1");
@@ -239,10 +216,9 @@ TEST(WaveShaperViews, TraceTheSineThroughTheGains)
         float pregain, postgain;
         double peak; // points above the middle
     } kRows[] = {
-        {true, 7, 1, 1, 1, 100},    {true, 8, 1, 1, 1, 50},     {true, 6, 1, 1, 1, 100},
-        {true, 8, 1, 4, 0.5F, 50},  {true, 7, 1, 0.5F, 3, 150}, {true, 7, 1, 0, 1, 0},
-        {false, 1, 1, 1, 1, 100},   {false, 1, 0, 1, 1, 0},     {false, 1, 0.5, 4, 1, 100},
-        {false, 1, 0.5, 1, 3, 150}, {false, 1, -1, 1, 1, -100},
+        {true, 7, 1, 1, 1, 100},    {true, 6, 1, 1, 1, 100},    {true, 8, 1, 4, 0.5F, 50},
+        {true, 7, 1, 0.5F, 3, 150}, {false, 1, 0.5, 4, 1, 100}, {false, 1, 0.5, 1, 3, 150},
+        {false, 1, -1, 1, 1, -100},
     };
     EditorRig rig;
     rig.view.set_amplitude_in_scale_out_scale(3.1415927F, 2);

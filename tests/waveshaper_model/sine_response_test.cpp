@@ -1,5 +1,5 @@
 // The fast response to the test sine against the plain one.
-#include "tests/waveshaper_model/compare_sine_response.h"
+#include "tests/waveshaper_model/plain_sine_response.h"
 
 #include <gtest/gtest.h>
 
