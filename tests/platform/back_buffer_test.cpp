@@ -3,12 +3,8 @@
 #include "platform/graphics.h"
 #include "platform/window.h"
 #include "tests/support/canvas.h"
+#include "tests/support/scratch_folder.h"
 
-#include <unistd.h>
-
-#include <cstring>
-#include <filesystem>
-#include <fstream>
 #include <random>
 
 namespace r7 {
@@ -23,53 +19,37 @@ public:
     Canvas::Painter painter;
 };
 
-class Backend final : public WindowBackend {
-public:
-    void window_needs_paint(const Rect&) override {}
-    void show_cursor(const CursorRef&) override {}
-};
-
 const ColorRef kRed = Color::device_rgba(1, 0, 0, 1);
 const ColorRef kHalfWhite = Color::device_white(1, 0.5);
 
-struct BackBufferTest : testing::Test {
-    Backend backend;
+struct BackBufferTest : testing::Test, ScratchFolder {
     std::shared_ptr<Window> window = std::make_shared<Window>(Rect{0, 0, 120, 80});
     bool otherwise = false; // whether random views paint something else
-    std::filesystem::path folder =
-        std::filesystem::temp_directory_path() / ("r7-back-buffer-test-" + std::to_string(::getpid()));
-
-    BackBufferTest()
-    {
-        std::filesystem::create_directory(folder);
-        window->set_backend(&backend);
-    }
-    ~BackBufferTest() override
-    {
-        window->set_backend(nullptr);
-        std::filesystem::remove_all(folder);
-    }
 
     void show(Canvas::Painter painter)
     {
         window->set_content_view(std::make_shared<Painting>(Rect{0, 0, 120, 80}, std::move(painter)));
     }
-    std::ptrdiff_t files() const { return std::distance(std::filesystem::directory_iterator(folder), {}); }
+    Canvas written(const char* name, int width, int height) const
+    {
+        const Canvas picture(make_surface(cairo_image_surface_create_from_png((folder / name).c_str())));
+        EXPECT_EQ(picture.width(), width);
+        EXPECT_EQ(picture.height(), height);
+        return picture;
+    }
+    Canvas look_at(const BackBuffer& picture) const
+    {
+        EXPECT_TRUE(picture.write_png(folder / "picture.png"));
+        return written("picture.png", picture.width(), picture.height());
+    }
 };
 
-std::uint32_t word(const BackBuffer& picture, int x, int y_from_top)
-{
-    const std::size_t at =
-        static_cast<std::size_t>(y_from_top) * picture.stride() + 4 * static_cast<std::size_t>(x);
-    std::uint32_t argb = 0;
-    std::memcpy(&argb, &picture.pixels()[at], 4);
-    return argb;
-}
+constexpr Pixel kRedPixel{255, 0, 0, 255}, kGreyPixel{128, 128, 128, 255}, kBlackPixel{0, 0, 0, 255};
 
 TEST_F(BackBufferTest, PaintsWhatWasAskedForOnBlack)
 {
     BackBuffer picture({120, 80}, 1.5);
-    EXPECT_EQ(word(picture, 179, 119), 0xFF000000u);
+    expect_lit(look_at(picture), {{{0, 0, 180, 120}, kBlackPixel}});
     show([](Graphics& g) { g.fill_rect({0, 0, 120, 80}, kRed.get(), Compositing::copy); });
     const auto all = picture.repaint(*window);
     ASSERT_EQ(all.size(), 1u);
@@ -83,10 +63,7 @@ TEST_F(BackBufferTest, PaintsWhatWasAskedForOnBlack)
     const auto part = picture.repaint(*window);
     ASSERT_EQ(part.size(), 1u);
     EXPECT_EQ(part[0], (PixelRect{1, 115, 4, 2})) << "whole pixels, and none for a rounding error";
-    for (int x = 0; x < 8; ++x)
-        for (int y = 112; y < 120; ++y)
-            EXPECT_EQ(word(picture, x, y),
-                      intersection(part[0], {x, y, 1, 1}).is_empty() ? 0xFFFF0000u : 0xFF808080u);
+    expect_lit(look_at(picture), {{{1, 3, 4, 2}, kGreyPixel}, {{0, 0, 180, 120}, kRedPixel}});
 }
 
 TEST_F(BackBufferTest, PartialRepaintsAddUpToAFullOne)
@@ -155,27 +132,20 @@ TEST_F(BackBufferTest, WritesItselfOrAPartOfItselfOrNothing)
     BackBuffer picture({120, 80}, 2.0);
     show([](Graphics& g) { g.fill_rect({10, 20, 30, 40}, kRed.get(), Compositing::copy); });
     picture.repaint(*window);
-    std::ofstream(folder / "part.png") << "is replaced";
+    write("part.png", "is replaced");
     ASSERT_TRUE(picture.write_png(folder / "whole.png"));
     ASSERT_TRUE(picture.write_png(folder / "part.png", {9, 20, 5, 4.25}));
-    const auto read = [&](const char* name, double width, double height) {
-        const ImageRef image = Image::from_png_file(folder / name);
-        return Canvas(width, height,
-                      [&](Graphics& g) { g.draw_image(image.get(), {}, Compositing::copy, 1.0); });
-    };
-    const Pixel red{255, 0, 0, 255}, black{0, 0, 0, 255};
-    expect_lit(read("whole.png", 250, 170), {{{20, 40, 60, 80}, red}, {{0, 0, 240, 160}, black}});
-    expect_lit(read("part.png", 20, 20), {{{0, 0, 2, 9}, black}, {{2, 0, 8, 9}, red}});
-    std::ifstream file(folder / "whole.png", std::ios::binary);
-    const std::string bytes{std::istreambuf_iterator<char>(file), {}};
-    EXPECT_EQ(bytes.find("pHYs"), std::string::npos) << "a pixel is a pixel";
+    expect_lit(written("whole.png", 240, 160),
+               {{{20, 40, 60, 80}, kRedPixel}, {{0, 0, 240, 160}, kBlackPixel}});
+    expect_lit(written("part.png", 10, 9), {{{0, 0, 2, 9}, kBlackPixel}, {{2, 0, 8, 9}, kRedPixel}});
+    EXPECT_EQ(bytes_of(folder / "whole.png").find("pHYs"), std::string::npos) << "a pixel is a pixel";
 
     std::filesystem::create_directory(folder / "taken.png");
     for (const char* name : {"missing/x.png", "taken.png"})
         EXPECT_FALSE(picture.write_png(folder / name)) << name;
     for (const Rect& rect : {Rect{200, 0, 10, 10}, {std::nan(""), 0, 10, 10}, {0, 0, 10, -1}})
         EXPECT_FALSE(picture.write_png(folder / "none.png", rect));
-    EXPECT_EQ(files(), 3) << "nothing is left behind";
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder), {}), 3) << "nothing is left behind";
 }
 
 } // namespace

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include <limits>
+#include <cmath>
 #include <random>
 
 namespace r7 {
@@ -32,9 +32,8 @@ TEST(DirtyRegion, CoversEveryRequestWithFewRectanglesThatDoNotOverlap)
 
 TEST(DirtyRegion, KeepsApartWhatDoesNotTouchAndIgnoresWhatIsNoRectangle)
 {
-    constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
     DirtyRegion region;
-    for (const Rect& rect : {Rect{0, 0, 0, 9}, {0, 0, 9, -1}, {kNaN, 0, 9, 9}, {0, 0, 9, 1 / 0.0}})
+    for (const Rect& rect : {Rect{0, 0, 0, 9}, {0, 0, 9, -1}, {std::nan(""), 0, 9, 9}, {0, 0, 9, 1 / 0.0}})
         region.add(rect);
     EXPECT_TRUE(region.is_empty());
     region.add({0, 0, 10, 10});

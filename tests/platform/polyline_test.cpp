@@ -18,20 +18,18 @@ double distance_to_segment(Point p, Point a, Point b)
     return std::hypot(p.x - a.x - way.x * t, p.y - a.y - way.y * t);
 }
 
-struct Polyline : testing::Test {
-    std::mt19937 random{20260722};
-    double number(double from, double to) { return std::uniform_real_distribution(from, to)(random); }
-    Point point(double reach) { return {number(-reach, reach), number(-reach, reach)}; }
-};
-
-TEST_F(Polyline, SimplifyKeepsEveryDroppedVertexWithinTheTolerance)
+TEST(Polyline, SimplifyKeepsEveryDroppedVertexWithinTheTolerance)
 {
+    std::mt19937 random(20260722);
+    const auto number = [&](double from, double to) {
+        return std::uniform_real_distribution(from, to)(random);
+    };
     constexpr double kTolerance = 0.05;
     std::size_t vertices = 0;
     for (int round = 0; round < 300; ++round) {
         // From smooth curves to noise, with steps of very different lengths.
         const double noise = std::pow(10.0, number(-4, 0)), bend = number(0, 0.3);
-        Line line{point(10)};
+        Line line{{number(-10, 10), number(-10, 10)}};
         for (double angle = 0; line.size() < 300; angle += number(-0.02, bend)) {
             const double step = std::pow(10.0, number(-2, 0.5));
             line.push_back({line.back().x + std::cos(angle) * step + number(-noise, noise),

@@ -6,6 +6,7 @@
 
 #include <cmath>
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace r7 {
@@ -16,12 +17,7 @@ constexpr double kSize = 9.0;
 TEST(TextLayout, BreaksLinesAtBlanksWhereTheyAreTooWide)
 {
     const double exact = width_of_text("one two", kSize), narrow = width_of_text("three", kSize) * 0.9;
-    struct Row {
-        std::string text;
-        double width;
-        std::vector<std::string> lines;
-    };
-    const Row rows[] = {
+    const std::tuple<std::string, double, std::vector<std::string>> rows[] = {
         {"one two", exact, {"one two"}},
         {"one two", exact - 0.01, {"one", "two"}},
         {"one two three", exact, {"one two", "three"}},
@@ -36,12 +32,12 @@ TEST(TextLayout, BreaksLinesAtBlanksWhereTheyAreTooWide)
         {"Frequency (Hz)", 70.0, {"Frequency (Hz)"}},
     };
     const Font& font = Font::label();
-    for (const Row& row : rows) {
+    for (const auto& [text, width, lines] : rows) {
         for (const auto alignment : {TextAlignment::left, TextAlignment::center}) {
-            const Rect rect{7, 3, row.width, 20};
+            const Rect rect{7, 3, width, 20};
             Path expected, path;
             Point pen{0, rect.top() - font.ascent(kSize)};
-            for (const std::string& line : row.lines) {
+            for (const std::string& line : lines) {
                 const double rest = rect.width - width_of_text(line, kSize);
                 pen.x = alignment == TextAlignment::left ? 7.0 : 7.0 + rest / 2;
                 for (const char c : line) {
@@ -50,11 +46,11 @@ TEST(TextLayout, BreaksLinesAtBlanksWhereTheyAreTooWide)
                 }
                 pen.y -= font.line_height(kSize);
             }
-            append_text(row.text, rect, kSize, alignment, path);
-            ASSERT_EQ(path.elements().size(), expected.elements().size()) << row.text;
+            append_text(text, rect, kSize, alignment, path);
+            ASSERT_EQ(path.elements().size(), expected.elements().size()) << text;
             for (std::size_t i = 0; i < path.elements().size(); ++i) {
-                EXPECT_NEAR(path.elements()[i].end().x, expected.elements()[i].end().x, 1e-9) << row.text;
-                EXPECT_NEAR(path.elements()[i].end().y, expected.elements()[i].end().y, 1e-9) << row.text;
+                const Point a = path.elements()[i].end(), b = expected.elements()[i].end();
+                EXPECT_LT(std::hypot(a.x - b.x, a.y - b.y), 1e-9) << text;
             }
         }
     }

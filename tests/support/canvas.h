@@ -7,9 +7,9 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <cstdlib>
 #include <functional>
 #include <ostream>
-#include <string>
 #include <vector>
 
 namespace r7 {
@@ -23,6 +23,13 @@ struct Pixel {
     bool operator==(const Pixel&) const = default;
 };
 
+/// The greatest step of a component from one to the other.
+inline int step_between(const Pixel& a, const Pixel& b)
+{
+    return std::max({std::abs(a.red - b.red), std::abs(a.green - b.green), std::abs(a.blue - b.blue),
+                     std::abs(a.alpha - b.alpha)});
+}
+
 inline std::ostream& operator<<(std::ostream& stream, const Pixel& p)
 {
     return stream << '(' << p.red << ' ' << p.green << ' ' << p.blue << ' ' << p.alpha << ')';
@@ -32,10 +39,13 @@ class Canvas final {
 public:
     using Painter = std::function<void(Graphics&)>;
 
+    /// What is painted already, on an image surface.
+    explicit Canvas(SurfaceRef picture) : picture_(std::move(picture)) {}
     Canvas(double width, double height, double scale, const Painter& paint)
-        : picture_(make_picture({width, height}, scale)), graphics_(picture_, scale)
+        : Canvas(make_picture({width, height}, scale))
     {
-        paint(graphics_);
+        CairoGraphics graphics(picture_, scale);
+        paint(graphics);
     }
     Canvas(double width, double height, const Painter& paint) : Canvas(width, height, 1.0, paint) {}
 
@@ -50,7 +60,8 @@ public:
                                    cairo_image_surface_get_stride(picture_.get()) * (height() - 1 - y);
         const std::uint32_t argb = reinterpret_cast<const std::uint32_t*>(row)[x];
         const auto byte = [&](int shift) { return static_cast<int>(argb >> shift & 0xFF); };
-        return {byte(16), byte(8), byte(0), byte(24)};
+        const bool has_alpha = cairo_image_surface_get_format(picture_.get()) == CAIRO_FORMAT_ARGB32;
+        return {byte(16), byte(8), byte(0), has_alpha ? byte(24) : 255};
     }
     void write_png(const std::string& path) const
     {
@@ -60,7 +71,6 @@ public:
 
 private:
     SurfaceRef picture_;
-    CairoGraphics graphics_;
 };
 
 /// A colour, and where in points it is expected.

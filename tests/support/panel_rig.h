@@ -4,26 +4,12 @@
 #include "host/view_factory.h"
 #include "platform/run_loop.h"
 #include "platform/window.h"
-#include "unit/embedded_unit.h"
+#include "tests/support/recording_observer.h"
 
 #include <chrono>
 #include <memory>
-#include <string>
-#include <utility>
-#include <vector>
 
 namespace r7 {
-
-/// Keeps what the panel does to its unit, in order.
-struct RecordingObserver final : UnitObserver {
-    std::vector<std::pair<AudioUnitParameterID, float>> sets;
-    std::vector<std::pair<AudioUnitPropertyID, UInt32>> writes;
-    int deliveries = 0;
-
-    void parameter_set(AudioUnitParameterID id, float value) override { sets.emplace_back(id, value); }
-    void property_written(AudioUnitPropertyID id, UInt32 size) override { writes.emplace_back(id, size); }
-    void will_deliver(const AudioUnitEvent&, float) override { ++deliveries; }
-};
 
 /// Everything that one panel needs. Members go in any order a test likes: reset what is to die first.
 struct PanelRig {

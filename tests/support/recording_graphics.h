@@ -106,13 +106,10 @@ private:
     }
 };
 
-class FakeImage final : public Image {
-public:
-    explicit FakeImage(Size size) : size_(size) {}
-    Size size() const override { return size_; }
-
-private:
-    Size size_;
+struct FakeImage final : Image {
+    explicit FakeImage(Size new_extent) : extent(new_extent) {}
+    Size size() const override { return extent; }
+    const Size extent;
 };
 
 inline ImageRef fake_image(double width, double height)

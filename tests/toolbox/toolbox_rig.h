@@ -3,8 +3,8 @@
 
 #include "platform/audio_toolbox.h"
 
-#include <charconv>
 #include <functional>
+#include <sstream>
 #include <string>
 
 namespace r7 {
@@ -44,11 +44,9 @@ struct RecordingListener {
     static void called(void* self, void*, const AudioUnitEvent* event, UInt64, Float32 value)
     {
         auto& listener = *static_cast<RecordingListener*>(self);
-        char number[32];
-        const auto end = std::to_chars(number, number + sizeof number, value).ptr;
-        listener.heard += std::to_string(event->mEventType) + ':' +
-                          std::to_string(event->mArgument.mParameter.mParameterID) + '=' +
-                          std::string(number, end) + ' ';
+        std::ostringstream text;
+        text << event->mEventType << ':' << event->mArgument.mParameter.mParameterID << '=' << value << ' ';
+        listener.heard += text.str();
         if (listener.during_call) listener.during_call();
     }
 

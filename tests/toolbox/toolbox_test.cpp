@@ -1,7 +1,7 @@
 // The toolbox's contract: who hears of what, when, how often, and what becomes of those who have gone.
 #include "platform/run_loop.h"
+#include "tests/support/recording_observer.h"
 #include "tests/toolbox/toolbox_rig.h"
-#include "unit/embedded_unit.h"
 
 #include <gtest/gtest.h>
 
@@ -17,21 +17,17 @@ using namespace std::chrono_literals;
 constexpr UInt32 kParameter = kAudioUnitEvent_ParameterValueChange;
 constexpr UInt32 kProperty = kAudioUnitEvent_PropertyChange;
 
-struct ToolboxTest : testing::Test, UnitObserver {
-    void parameter_set(AudioUnitParameterID, float) override {}
-    void property_written(AudioUnitPropertyID, UInt32) override {}
-    void will_deliver(const AudioUnitEvent&, float) override { before_delivery ? before_delivery() : void(); }
-
+struct ToolboxTest : testing::Test {
     void expect_heard_after(Time time, RecordingListener& listener, const char* heard)
     {
         loop.advance(clock, time);
         EXPECT_EQ(std::exchange(listener.heard, {}), heard);
     }
 
-    std::function<void()> before_delivery;
+    RecordingObserver observer;
     SimulatedClock clock;
     RunLoop loop{clock};
-    std::shared_ptr<EmbeddedUnit> unit = EmbeddedUnit::create(this);
+    std::shared_ptr<EmbeddedUnit> unit = EmbeddedUnit::create(&observer);
     AudioUnit au = unit->handle();
 };
 
@@ -153,7 +149,7 @@ TEST_F(ToolboxTest, SendingAnEventCallsOneListenerAtOnce)
     RecordingListener listener;
     listener.ask_for(event_of(kParameter, au, 1));
     set(nullptr, au, 1, 0.5F);
-    before_delivery = [&] { listener.heard += '>'; };
+    observer.on_delivery = [&] { listener.heard += '>'; };
     EXPECT_EQ(send_event(listener.handle, event_of(kParameter, au, 1), 0.25F), noErr);
     EXPECT_EQ(send_event(listener.handle, event_of(4, au, 3), 0.0F), noErr);
     EXPECT_EQ(listener.heard, ">0:1=0.25 >4:3=0 ") << "the unit is told before each delivery";
@@ -165,7 +161,7 @@ TEST_F(ToolboxTest, WhoHasGoneNeitherHearsNorIsHeardOf)
 {
     for (const std::string who : {"listener", "unit"}) {
         for (const std::string when : {"before", "about to", "during"}) {
-            unit = EmbeddedUnit::create(this);
+            unit = EmbeddedUnit::create(&observer);
             au = unit->handle();
             RecordingListener listener;
             for (const UInt32 id : {1u, 2u}) {
@@ -174,7 +170,7 @@ TEST_F(ToolboxTest, WhoHasGoneNeitherHearsNorIsHeardOf)
             }
             const auto go = [&] { who == "unit" ? unit.reset() : void(AUListenerDispose(listener.handle)); };
             if (when == "before") go();
-            before_delivery = when == "about to" ? go : std::function<void()>();
+            observer.on_delivery = [&] { when == "about to" ? go() : void(); };
             if (when == "during") listener.during_call = go;
             const bool is_told = when == "during" || (when == "about to" && who == "unit");
             SCOPED_TRACE(who + ' ' + when);
