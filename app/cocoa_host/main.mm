@@ -1,4 +1,4 @@
-// r7_cocoa_host -bundle PATH -origin "X Y": shows the bundle's view, and obeys standard input
+// r7_cocoa_host -bundle PATH -origin "{X, Y}": shows the bundle's view, and obeys standard input
 // (PanelHost::perform).
 #include "app/cocoa_host/descriptor_watch.h"
 #include "app/cocoa_host/panel_host.h"
@@ -52,11 +52,9 @@ void serve_one_event()
     [pool release];
 }
 
-} // namespace
-
-int main()
+// All of it goes before the pool does.
+void run()
 {
-    NSAutoreleasePool* const pool = [NSAutoreleasePool new];
     NSUserDefaults* const defaults = [NSUserDefaults standardUserDefaults];
     [defaults registerDefaults:settings()];
     PanelHost host([NSBundle bundleWithPath:[defaults stringForKey:@"bundle"]],
@@ -76,5 +74,13 @@ int main()
             std::puts(host.perform(unread.substr(0, end)).c_str());
         std::fflush(stdout);
     }
+}
+
+} // namespace
+
+int main()
+{
+    NSAutoreleasePool* const pool = [NSAutoreleasePool new];
+    run();
     [pool release];
 }
