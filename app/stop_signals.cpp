@@ -19,6 +19,9 @@ StopSignals::StopSignals(std::function<void()> stop) : stop_(std::move(stop))
 StopSignals::~StopSignals()
 {
     if (file_ < 0) return;
+    // What was sent once more asked for the end that has come.
+    stop_ = [] {};
+    serve();
     pthread_sigmask(SIG_SETMASK, &before_, nullptr);
     close(file_);
 }

@@ -50,7 +50,8 @@ stays() {
 
 # start_panel OPTION
 start_panel() {
-    timeout -k 5 60 "$program" --scale 1 "$1" >"$work/trace" 2>"$work/complaint" &
+    # In the foreground, for otherwise a signal to the panel would be sent twice.
+    timeout --foreground -k 5 60 "$program" --scale 1 "$1" >"$work/trace" 2>"$work/complaint" &
     panel=$!
 }
 
