@@ -100,6 +100,18 @@ point_at() {
     xdotool mousemove --window "$window" $((left[$1] + x)) $((bottom[$1] - 1 - y))
 }
 
+# A busy machine may take longer between two clicks than a double click lasts, and then nothing comes of them.
+double_click() {
+    local lines tries
+    lines=$(wc -l <"$work/trace")
+    point_at "$1"
+    for tries in {1..5}; do
+        xdotool click --repeat 2 --delay 40 1
+        if within 3 traced $((lines + 1)); then return; fi
+    done
+    die "a double click does nothing: $1, $tries times"
+}
+
 # Performs a session on the display.
 perform() {
     local word name at x y more held lines
@@ -119,7 +131,7 @@ perform() {
             ;;
         release) xdotool mouseup "$held" ;;
         scroll) point_at "$name" && xdotool click $((at > 0 ? 4 : 5)) ;;
-        click) [[ $at == clicks ]] || { point_at "$name" && xdotool click --repeat 2 --delay 40 1; } ;;
+        click) [[ $at == clicks ]] || double_click "$name" ;;
         esac
     done <"$session"
 }
